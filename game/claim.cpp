@@ -1,0 +1,41 @@
+#include "game/claim.h"
+
+#include "game/board.h"
+#include "game/game.h"
+#include "game/game_view.h"
+#include "game/numbers.h"
+#include "game/start_of_game.h"
+
+namespace {
+
+constexpr double claimPrice = 1200;
+
+void RevealAllLetters(Board& board)
+{
+    for (int k = 1; k <= 6; ++k) {
+        const auto letter = [&board, k](int word) {
+            return std::string(1, board.HiddenWords(word)[static_cast<std::size_t>(k) - 1]);
+        };
+        board.Text6(k).Text = board.Word1(k).Text = letter(1);
+        board.Text7(k).Text = board.Word2(k).Text = letter(2);
+        board.Text8(k).Text = board.Word3(k).Text = letter(3);
+    }
+}
+
+} // namespace
+
+void ClaimThreeWords(Game& game)
+{
+    Board& board = game.board;
+    const double yourScore = NumberOf(board.YourScore.Text);
+    const double claimed = (NumberOf(board.MyScore.Text) - claimPrice) * 2;
+    if (yourScore > claimed)
+        return;
+    board.MyScore.Text = PlainForm(claimed);
+    game.view.ShowMessage(std::string("I now know all three words")
+        + (claimed > yourScore ? " I WIN!!" : " But You Still WIN!!"));
+    RevealAllLetters(board);
+    if (game.view.AskYesNo("Play Again", "New Game") == Answer::No)
+        game.view.EndProgram();
+    ReturnToLevelPanel(board);
+}

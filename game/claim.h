@@ -1,0 +1,9 @@
+// The computer's claim to know all three hidden words.
+#pragma once
+
+struct Game;
+
+// Weighs the claim against the player's score, for a MyScore above 1200. When it goes ahead, the
+// game is over: returns when the player wants another, ends the program when not. Returns with
+// nothing changed when the player's score forbids it.
+void ClaimThreeWords(Game& game);

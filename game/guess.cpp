@@ -1,0 +1,54 @@
+#include "game/guess.h"
+
+#include "game/board.h"
+#include "game/game.h"
+#include "game/game_view.h"
+#include "game/numbers.h"
+#include "game/rows.h"
+#include "game/start_of_game.h"
+
+namespace {
+
+bool GuessIsRight(const Board& board)
+{
+    return Spell(board.Text6) == board.HiddenWords(1) && Spell(board.Text7) == board.HiddenWords(2)
+        && Spell(board.Text8) == board.HiddenWords(3);
+}
+
+std::string ResultText(const Board& board)
+{
+    const double mine = NumberOf(board.MyScore.Text);
+    const double yours = NumberOf(board.YourScore.Text);
+    if (mine > yours)
+        return "I win with a Score Of:" + PaddedForm(mine);
+    if (mine < yours)
+        return "You win with a Score Of:" + PaddedForm(yours);
+    return "It's a draw: " + PaddedForm(yours) + " points each";
+}
+
+} // namespace
+
+// "Make A Guess"
+void Command7_Click(Game& game)
+{
+    Board& board = game.board;
+    if (HasEmptyBox(board.Text6) || HasEmptyBox(board.Text7) || HasEmptyBox(board.Text8)) {
+        game.view.ShowMessage("Please fill all the letter Boxes Below!");
+        return;
+    }
+    if (!GuessIsRight(board)) {
+        game.view.ShowMessage("Sorry, but one or more of your words is wrong");
+        return;
+    }
+    game.view.ShowMessage("CORRECT!! Well Done");
+    board.YourScore.Text = PlainForm(2 * NumberOf(board.YourScore.Text));
+    game.view.ShowMessage(ResultText(board));
+    if (game.view.AskYesNo("Play Again", "New Game") == Answer::No)
+        game.view.EndProgram();
+    ReturnToLevelPanel(board);
+    for (Frame* frame :
+        {&board.Frame2, &board.Frame3, &board.Frame4, &board.Frame5, &board.Frame7, &board.Frame9})
+        frame->Visible = false;
+    for (LetterRow* row : {&board.Text6, &board.Text7, &board.Text8})
+        Empty(*row);
+}

@@ -1,0 +1,6 @@
+// The player names all three hidden words.
+#pragma once
+
+struct Game;
+
+void Command7_Click(Game& game); // "Make A Guess"

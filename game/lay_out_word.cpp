@@ -1,0 +1,33 @@
+#include "game/lay_out_word.h"
+
+#include "game/board.h"
+#include "game/game.h"
+#include "game/rows.h"
+
+#include <utility>
+
+// "Lay Out Word": the letters go up, and wait there to be placed one by one.
+void Command9_Click(Game& game)
+{
+    Board& board = game.board;
+    if (HasEmptyBox(board.Text1))
+        return;
+    for (Button* button : ArrangingButtons(board))
+        button->Enabled = false;
+    Disable(board.Text1);
+    for (int i = 1; i <= 6; ++i)
+        board.Text2(i).Text = std::exchange(board.Text1(i).Text, "");
+    board.LayOutNext = 1;
+}
+
+// A box above "Lay Out Word": places its letter in the next box of "Your Letters".
+void Text2_Click(Game& game, std::int16_t Index)
+{
+    Board& board = game.board;
+    if (board.Text2(Index).Text.empty())
+        return;
+    board.Text1(board.LayOutNext).Text = std::exchange(board.Text2(Index).Text, "");
+    ++board.LayOutNext;
+    if (board.LayOutNext == 7)
+        EnableArranging(board);
+}

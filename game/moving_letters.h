@@ -1,0 +1,14 @@
+// The moves that change letters and cost nothing. A move that cannot be made does nothing.
+#pragma once
+
+#include <cstdint>
+
+struct Game;
+
+void Text1_Click(Game& game, std::int16_t Index);       // a box of "Your Letters"
+void SwapLetters_Click(Game& game, std::int16_t Index); // a box of "Swap Letters"
+void Command4_Click(Game& game);                        // "<"
+void Command5_Click(Game& game);                        // ">"
+void Command16_Click(Game& game);                       // "+"
+void Command6_Click(Game& game);                        // "Mix Letters"
+void Command15_Click(Game& game);                       // "Rotate Swap Letters"

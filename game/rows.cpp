@@ -1,0 +1,51 @@
+#include "game/rows.h"
+
+#include <algorithm>
+
+std::string Spell(const LetterRow& row)
+{
+    std::string word;
+    for (const LetterBox& box : row)
+        word += box.Text;
+    return word;
+}
+
+bool HasEmptyBox(const LetterRow& row)
+{
+    return std::ranges::any_of(row, [](const LetterBox& box) { return box.Text.empty(); });
+}
+
+bool HoldsLetters(const LetterRow& row)
+{
+    return !std::ranges::all_of(row, [](const LetterBox& box) { return box.Text.empty(); });
+}
+
+void Empty(LetterRow& row)
+{
+    for (LetterBox& box : row)
+        box.Text.clear();
+}
+
+void Enable(LetterRow& row)
+{
+    for (LetterBox& box : row)
+        box.Enabled = true;
+}
+
+void Disable(LetterRow& row)
+{
+    for (LetterBox& box : row)
+        box.Enabled = false;
+}
+
+std::array<Button*, 5> ArrangingButtons(Board& board)
+{
+    return {&board.Command9, &board.Command16, &board.Command4, &board.Command5, &board.Command6};
+}
+
+void EnableArranging(Board& board)
+{
+    for (Button* button : ArrangingButtons(board))
+        button->Enabled = true;
+    Enable(board.Text1);
+}
