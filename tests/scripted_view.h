@@ -1,0 +1,54 @@
+// A window made of a script: it keeps every call in order and gives prepared answers.
+#pragma once
+
+#include "game/game_view.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+// Stands for the end of the process. Not a std::exception, so that no failure path swallows it.
+struct ProgramEnded { };
+
+class ScriptedView : public GameView {
+public:
+    std::vector<std::string> calls; // "Quorvel2: Word Accepted", "New Game? Play Again", "refresh"
+    std::deque<Answer> answers;
+    std::function<void(const std::string& call)> during; // what happens while a call is up
+
+    void ShowMessage(const std::string& text, const std::string& title) override
+    {
+        Keep(title + ": " + text);
+    }
+
+    Answer AskYesNo(const std::string& text, const std::string& title) override
+    {
+        Keep(title + "? " + text);
+        if (answers.empty()) {
+            ADD_FAILURE() << "no answer is prepared for: " << text;
+            throw ProgramEnded{};
+        }
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+
+    void RefreshWindow() override { Keep("refresh"); }
+
+    [[noreturn]] void EndProgram() override
+    {
+        calls.emplace_back("end");
+        throw ProgramEnded{};
+    }
+
+private:
+    void Keep(const std::string& call)
+    {
+        calls.push_back(call);
+        if (during)
+            during(call);
+    }
+};

@@ -1,0 +1,66 @@
+// A game with no window: a board, a scripted view, scripted draws and a word list of the test's
+// own.
+#pragma once
+
+#include "game/board.h"
+#include "game/game.h"
+#include "scripted_platform.h"
+#include "scripted_view.h"
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+
+// A word list in a file that goes with it.
+class WordListFile {
+public:
+    explicit WordListFile(const std::string& bytes);
+    ~WordListFile();
+    WordListFile(const WordListFile&) = delete;
+    WordListFile& operator=(const WordListFile&) = delete;
+
+    void Write(const std::string& bytes) const;
+    const std::filesystem::path& Path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+// One word a line.
+std::string Lines(const std::vector<std::string>& words);
+
+class TestGame : public testing::Test {
+protected:
+    explicit TestGame(const std::string& words = "planet\ngarden\nsimple\n")
+        : list(words)
+    {
+    }
+
+    WordListFile list;
+    std::unique_ptr<Board> boardInHeap = std::make_unique<Board>();
+    Board& board = *boardInHeap;
+    ScriptedView view;
+    ScriptedPlatform platform;
+    Game game{board, view, platform, list.Path()};
+
+    // Runs a handler; true when it ended the program.
+    template <typename Handler> bool Ends(Handler handler)
+    {
+        try {
+            handler();
+            return false;
+        } catch (const ProgramEnded&) {
+            return true;
+        }
+    }
+};
+
+// A board as one line, as in "you=planet me=garden swap=simple you:120 me:50". A dot is an empty
+// box, a row in capitals is disabled as a whole, and what is not named in the line stays.
+std::string Line(const Board& board);
+void SetBoard(Board& board, const std::string& line);
+void SetRow(LetterRow& row, const std::string& letters);
+
+// All that always holds between two handlers of a started game; the failure text says what does
+// not.
+testing::AssertionResult BoardIsOk(const Board& board);
