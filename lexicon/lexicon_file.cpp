@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::size_t firstBufferSize = 64 * 1024; // a list of 9000 six-letter words at one read
+constexpr std::size_t firstBufferSize = 65536; // a list of 9000 six-letter words at one read
 constexpr char sentinel = '\n';
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
