@@ -1,0 +1,289 @@
+#include "ui/builder.h"
+
+#include "ui/guess_box.h"
+#include "ui/letter_tile.h"
+#include "ui/roster.h"
+#include "ui/titled_frame.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+
+#include <algorithm>
+#include <map>
+#include <string_view>
+
+namespace {
+
+template <typename Labelled> QWidget* Captioned(QWidget* parent, const Control& row)
+{
+    return new Labelled(QString::fromUtf8(row.Caption), parent);
+}
+
+QWidget* MakeButton(QWidget* parent, const Control& row)
+{
+    auto* button = new QPushButton(QString::fromUtf8(row.Caption), parent);
+    button->setAutoDefault(true); // Enter clicks too
+    if (*row.Caption == '\0')
+        button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+
+QWidget* MakeLabel(QWidget* parent, const Control& row)
+{
+    auto* label = new QLabel(QString::fromUtf8(row.Caption), parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
+QWidget* MakeWidget(QWidget* parent, const Control& row)
+{
+    switch (row.Is) {
+    case Kind::Frame:
+        return Captioned<TitledFrame>(parent, row);
+    case Kind::ShownBox:
+        return new ShownBox(parent);
+    case Kind::LetterTile:
+        return new LetterTile(parent);
+    case Kind::GuessBox:
+        return new GuessBox(parent);
+    case Kind::Button:
+        return MakeButton(parent, row);
+    case Kind::Option:
+        return Captioned<QRadioButton>(parent, row);
+    case Kind::Check:
+        return Captioned<QCheckBox>(parent, row);
+    case Kind::List:
+        return new QListWidget(parent);
+    case Kind::Label:
+        return MakeLabel(parent, row);
+    }
+    return nullptr;
+}
+
+// The palette roles that a kind of control is drawn with.
+struct Roles {
+    QPalette::ColorRole ground;
+    QPalette::ColorRole ink;
+};
+
+Roles RolesOf(Kind kind)
+{
+    switch (kind) {
+    case Kind::Frame:
+        // What a frame holds inherits its palette, and nothing else is written in this role.
+        return {QPalette::Window, QPalette::BrightText};
+    case Kind::Button:
+        return {QPalette::Button, QPalette::ButtonText};
+    case Kind::ShownBox:
+    case Kind::LetterTile:
+    case Kind::GuessBox:
+    case Kind::List:
+        return {QPalette::Base, QPalette::Text};
+    case Kind::Option:
+    case Kind::Check:
+    case Kind::Label:
+        break;
+    }
+    return {QPalette::Window, QPalette::WindowText};
+}
+
+QColor ColourOf(const Colour& colour)
+{
+    return QColor(colour.Red, colour.Green, colour.Blue);
+}
+
+void Paint(QWidget& widget, const Control& row)
+{
+    if (!row.Background && !row.Text)
+        return;
+    const Roles roles = RolesOf(row.Is);
+    QPalette palette;
+    // A named ground never keeps the desktop's ink: white on pale would be left on a dark desktop.
+    palette.setColor(roles.ink, ColourOf(row.Text.value_or(Colour())));
+    if (row.Background)
+        palette.setColor(roles.ground, ColourOf(*row.Background));
+    if (row.Is == Kind::Option) {
+        // The round mark, and the ring about the option that has the focus.
+        palette.setColor(QPalette::Base, Qt::white);
+        palette.setColor(QPalette::Text, Qt::black);
+        palette.setColor(QPalette::Highlight, ColourOf(*row.Text));
+    }
+    widget.setPalette(palette);
+    widget.setForegroundRole(roles.ink);
+    widget.setAutoFillBackground(
+        row.Background && (row.Is == Kind::Frame || row.Is == Kind::Label));
+}
+
+void Describe(QWidget& widget, const Control& row, int number)
+{
+    const QString spoken = QString::fromUtf8(*row.Spoken == '\0' ? row.Caption : row.Spoken);
+    widget.setAccessibleName(spoken.contains(u"%1") ? spoken.arg(number) : spoken);
+    widget.setAccessibleDescription(QString::fromUtf8(row.SpokenHelp));
+    widget.setToolTip(QString::fromUtf8(row.ToolTip));
+}
+
+// Neighbours for the arrow keys, by the number of the box, wherever in the roster the boxes stand.
+void JoinRows(const std::vector<BuiltControl>& controls)
+{
+    std::map<std::string_view, std::map<int, LetterTile*>> rows;
+    GuessBox* lastGuess = nullptr;
+    for (const BuiltControl& control : controls) {
+        if (control.Row->Is == Kind::LetterTile) {
+            rows[control.Row->Name][control.Number] = static_cast<LetterTile*>(control.Widget);
+        } else if (control.Row->Is == Kind::GuessBox) {
+            auto* guess = static_cast<GuessBox*>(control.Widget);
+            if (lastGuess != nullptr)
+                guess->JoinTo(lastGuess);
+            lastGuess = guess;
+        }
+    }
+    for (const auto& [name, row] : rows)
+        for (auto tile = std::next(row.begin()); tile != row.end(); ++tile)
+            tile->second->JoinTo(std::prev(tile)->second);
+}
+
+void SetTabOrder(const std::vector<BuiltControl>& controls)
+{
+    QWidget* before = nullptr;
+    for (const std::string_view name : TabOrder()) {
+        std::map<int, QWidget*> boxes;
+        for (const BuiltControl& control : controls)
+            if (control.Row->Name == name)
+                boxes[control.Number] = control.Widget;
+        for (const auto& [number, widget] : boxes) {
+            if (before != nullptr)
+                QWidget::setTabOrder(before, widget);
+            before = widget;
+        }
+    }
+}
+
+// The first of the faces that the machine has; they are of one kind.
+QString Installed(std::initializer_list<const char*> faces)
+{
+    for (const char* face : faces)
+        if (QFontDatabase::hasFamily(QString::fromLatin1(face)))
+            return QString::fromLatin1(face);
+    return QApplication::font().family();
+}
+
+QString FamilyOf(Face face)
+{
+    switch (face) {
+    case Face::Plain:
+        break;
+    case Face::TimesNewRoman:
+        return Installed({"Times New Roman", "Liberation Serif", "DejaVu Serif"});
+    case Face::HobbitSF:
+        return Installed({"Hobbit SF", "Liberation Serif", "DejaVu Serif"});
+    case Face::BaskervilleOldFace:
+        return Installed({"Baskerville Old Face", "Liberation Serif", "DejaVu Serif"});
+    case Face::ArialBlack:
+        return Installed({"Arial Black", "Liberation Sans", "DejaVu Sans"});
+    case Face::NapaSF:
+        return Installed({"Napa SF", "Liberation Serif", "DejaVu Serif"});
+    case Face::SansSerif:
+        return Installed({"MS Sans Serif", "Liberation Sans", "DejaVu Sans"});
+    }
+    return QApplication::font().family();
+}
+
+// The room that a control has for its caption.
+QSize RoomFor(const Control& row, const QWidget& widget)
+{
+    const QStyle& style = *widget.style();
+    switch (row.Is) {
+    case Kind::Frame:
+        return widget.size() - QSize(16, 0);
+    case Kind::Button:
+        return widget.size() - QSize(6, 4);
+    case Kind::Option:
+        return widget.size()
+            - QSize(style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth)
+                    + style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing),
+                2);
+    case Kind::Check:
+        return widget.size()
+            - QSize(style.pixelMetric(QStyle::PM_IndicatorWidth)
+                    + style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing),
+                2);
+    default:
+        return widget.size();
+    }
+}
+
+// The font of the table, or for this one control a smaller one that its caption fits in with.
+QFont FontOf(const Control& row, const QWidget& widget, const QString& family, double pixelsPerTwip)
+{
+    constexpr double twipsPerPoint = 20;
+    const QString caption = QString::fromUtf8(row.Caption);
+    const QSize room = RoomFor(row, widget);
+    QFont font(family);
+    font.setBold(row.Font.Bold);
+    for (int pixels = qRound(row.Font.Points * twipsPerPoint * pixelsPerTwip);; --pixels) {
+        font.setPixelSize(std::max(pixels, 1));
+        const QFontMetrics metrics(font);
+        if (pixels <= 1 || caption.isEmpty()
+            || (metrics.horizontalAdvance(caption) <= room.width()
+                && metrics.tightBoundingRect(caption).height() <= room.height()))
+            return font;
+    }
+}
+
+QRect PlaceOf(const BuiltControl& control, double pixelsPerTwip)
+{
+    const Control& row = *control.Row;
+    const int steps = control.Number - (*row.Boxes == '\0' ? 0 : row.Boxes[0] - '0');
+    const Place at = {row.At.Left + steps * row.Next.Right, row.At.Top + steps * row.Next.Down,
+        row.At.Width, row.At.Height};
+    const auto pixels = [=](int twips) { return qRound(twips * pixelsPerTwip); };
+    // Edges are rounded and not sizes, so that joined boxes stay joined at every scale.
+    return QRect(QPoint(pixels(at.Left), pixels(at.Top)),
+        QPoint(pixels(at.Left + at.Width) - 1, pixels(at.Top + at.Height) - 1));
+}
+
+} // namespace
+
+std::vector<BuiltControl> BuildControls(QWidget& window)
+{
+    std::vector<BuiltControl> controls;
+    std::map<std::string_view, QWidget*> frames{{"", &window}};
+    for (const Control& row : Roster()) {
+        const std::string_view boxes = *row.Boxes == '\0' ? "-" : row.Boxes;
+        for (const char box : boxes) {
+            QWidget* widget = MakeWidget(frames.at(row.In), row);
+            const QString name = QString::fromLatin1(row.Name);
+            widget->setObjectName(box == '-' ? name : name + u'(' + QChar(box) + u')');
+            const int number = box == '-' ? 0 : box - '0';
+            Paint(*widget, row);
+            Describe(*widget, row, number);
+            controls.push_back({&row, number, widget});
+            if (row.Is == Kind::Frame)
+                frames[row.Name] = widget;
+        }
+    }
+    JoinRows(controls);
+    SetTabOrder(controls);
+    return controls;
+}
+
+void PlaceControls(const std::vector<BuiltControl>& controls, double pixelsPerTwip)
+{
+    std::map<Face, QString> families;
+    for (const BuiltControl& control : controls) {
+        const Lettering& lettering = control.Row->Font;
+        QString& family = families[lettering.Name];
+        if (family.isEmpty())
+            family = FamilyOf(lettering.Name);
+        if (control.Row->At.Width > 0)
+            control.Widget->setGeometry(PlaceOf(control, pixelsPerTwip));
+        control.Widget->setFont(FontOf(*control.Row, *control.Widget, family, pixelsPerTwip));
+    }
+}

@@ -1,0 +1,44 @@
+#include "ui/guess_box.h"
+
+#include <QKeyEvent>
+
+#include <limits>
+
+GuessBox::GuessBox(QWidget* parent)
+    : QLineEdit(parent)
+{
+    setAlignment(Qt::AlignCenter);
+    setMaxLength(std::numeric_limits<int>::max());
+}
+
+void GuessBox::JoinTo(GuessBox* previous)
+{
+    previous_ = previous;
+    previous->next_ = this;
+}
+
+void GuessBox::StepTo(GuessBox* box)
+{
+    // For the reason of a Tab key the box selects its text, so that typing replaces it.
+    if (box != nullptr)
+        box->setFocus(Qt::TabFocusReason);
+}
+
+void GuessBox::keyPressEvent(QKeyEvent* event)
+{
+    const bool atStart = cursorPosition() == 0 || hasSelectedText();
+    const bool atEnd = cursorPosition() == text().size() || hasSelectedText();
+    if ((event->key() == Qt::Key_Left && atStart)
+        || (event->key() == Qt::Key_Backspace && text().isEmpty())) {
+        StepTo(previous_);
+        return;
+    }
+    if (event->key() == Qt::Key_Right && atEnd) {
+        StepTo(next_);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+    const QString typed = event->text();
+    if (!typed.isEmpty() && typed.back().isPrint() && text().left(cursorPosition()).endsWith(typed))
+        StepTo(next_);
+}

@@ -1,0 +1,21 @@
+// A box of the guess rows: it takes any text, and a typed letter moves on to the next box.
+#pragma once
+
+#include <QLineEdit>
+
+class GuessBox : public QLineEdit {
+public:
+    explicit GuessBox(QWidget* parent);
+
+    // The box before this one, in this row or at the end of the row above.
+    void JoinTo(GuessBox* previous);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void StepTo(GuessBox* box);
+
+    GuessBox* previous_ = nullptr;
+    GuessBox* next_ = nullptr;
+};

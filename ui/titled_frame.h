@@ -1,0 +1,12 @@
+// A frame with its caption in the top line, drawn so that the caption never meets what it holds.
+#pragma once
+
+#include <QGroupBox>
+
+class TitledFrame : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
