@@ -1,0 +1,83 @@
+#include "tools/word_list/list_rules.h"
+
+#include "lexicon/lexicon_file.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+constexpr std::size_t lettersPerWord = 6;
+constexpr std::size_t mostRecords = 32767;
+constexpr std::size_t fewestFirstLetters = 3;
+constexpr std::size_t mostNamed = 10; // records named one by one, before the rest is only counted
+
+// The game marks a letter that a word has used with an asterisk. What is no ASCII letter, digit or
+// sign takes several bytes in most files, and the game would tear it apart.
+bool CanBeALetter(char letter)
+{
+    return letter > ' ' && letter <= '~' && letter != '*';
+}
+
+// What is wrong with the record, or nothing.
+std::string FaultOf(const std::string& record)
+{
+    if (record.empty())
+        return "is empty";
+    if (record.size() != lettersPerWord)
+        return "takes " + std::to_string(record.size()) + " bytes and not six";
+    if (!std::all_of(record.begin(), record.end(), CanBeALetter))
+        return "holds a character that cannot be a letter of the game";
+    return {};
+}
+
+// With fewer first letters, three words to hide cannot be drawn. The last record does not count:
+// it can be drawn only as the first of the three.
+bool HasEnoughFirstLetters(const std::vector<std::string>& records)
+{
+    std::set<char> firstLetters;
+    for (std::size_t k = 0; k + 1 < records.size(); ++k) {
+        if (!records[k].empty())
+            firstLetters.insert(records[k].front());
+    }
+    return firstLetters.size() >= fewestFirstLetters;
+}
+
+} // namespace
+
+std::vector<std::string> ReadRecords(const std::filesystem::path& list)
+{
+    std::vector<std::string> records;
+    LexiconFile file(list);
+    file.Open();
+    while (!file.AtEnd())
+        records.emplace_back(file.ReadRecord());
+    file.Close();
+    return records;
+}
+
+std::vector<std::string> FindFaults(const std::vector<std::string>& records)
+{
+    std::vector<std::string> faults;
+    if (records.size() > mostRecords)
+        faults.push_back(
+            "It has " + std::to_string(records.size()) + " records; the game counts to 32767.");
+    std::size_t broken = 0;
+    for (std::size_t k = 0; k < records.size(); ++k) {
+        const std::string fault = FaultOf(records[k]);
+        if (!fault.empty() && ++broken <= mostNamed)
+            faults.push_back(
+                "Record " + std::to_string(k + 1) + ", \"" + records[k] + "\", " + fault + ".");
+    }
+    if (broken > mostNamed)
+        faults.push_back("So it is with " + std::to_string(broken - mostNamed) + " more records.");
+    if (!HasEnoughFirstLetters(records))
+        faults.push_back("Its records, without the last, have fewer than three first letters.");
+    return faults;
+}
+
+std::size_t CountRepeats(std::vector<std::string> records)
+{
+    std::sort(records.begin(), records.end());
+    return static_cast<std::size_t>(records.end() - std::unique(records.begin(), records.end()));
+}
