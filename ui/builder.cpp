@@ -1,5 +1,6 @@
 #include "ui/builder.h"
 
+#include "ui/flat_box.h"
 #include "ui/guess_box.h"
 #include "ui/letter_tile.h"
 #include "ui/roster.h"
@@ -10,6 +11,7 @@
 #include <QFontDatabase>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
@@ -25,9 +27,56 @@ template <typename Labelled> QWidget* Captioned(QWidget* parent, const Control& 
     return new Labelled(QString::fromUtf8(row.Caption), parent);
 }
 
+// The style would shade a button of a named colour into others.
+class ColouredButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        DrawFlatBox(*this,
+            {.ground = QPalette::Button,
+                .ink = QPalette::ButtonText,
+                .text = text(),
+                .pressed = isDown()});
+    }
+};
+
+// The style marks the focus too faintly to be seen on brick.
+class LevelOption : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QRadioButton::paintEvent(event);
+        if (hasFocus())
+            QPainter(this).fillRect(0, height() - 2, width(), 2, palette().color(foregroundRole()));
+    }
+};
+
+// The style marks the focus on a word of the list, and an empty list has none.
+class UsedWordsList : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QListWidget::paintEvent(event);
+        QPainter painter(viewport());
+        if (hasFocus())
+            DrawFocusRing(painter, viewport()->rect());
+    }
+};
+
 QWidget* MakeButton(QWidget* parent, const Control& row)
 {
-    auto* button = new QPushButton(QString::fromUtf8(row.Caption), parent);
+    const QString caption = QString::fromUtf8(row.Caption);
+    QPushButton* button
+        = row.Background ? new ColouredButton(caption, parent) : new QPushButton(caption, parent);
     button->setAutoDefault(true); // Enter clicks too
     if (*row.Caption == '\0')
         button->setFocusPolicy(Qt::NoFocus);
@@ -56,11 +105,11 @@ QWidget* MakeWidget(QWidget* parent, const Control& row)
     case Kind::Button:
         return MakeButton(parent, row);
     case Kind::Option:
-        return Captioned<QRadioButton>(parent, row);
+        return Captioned<LevelOption>(parent, row);
     case Kind::Check:
         return Captioned<QCheckBox>(parent, row);
     case Kind::List:
-        return new QListWidget(parent);
+        return new UsedWordsList(parent);
     case Kind::Label:
         return MakeLabel(parent, row);
     }

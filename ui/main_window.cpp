@@ -365,14 +365,17 @@ void MainWindow::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
-// Enter anywhere on the level panel is its "OK".
+// Enter on the level panel chooses the level that has the focus; on the chosen one it is "OK".
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && Find("Frame1")->isAncestorOf(focusWidget()))
+    auto* option = qobject_cast<QRadioButton*>(focusWidget());
+    if (!enter || option == nullptr)
+        QWidget::keyPressEvent(event);
+    else if (option->isChecked())
         static_cast<QAbstractButton*>(Find("Command1"))->click();
     else
-        QWidget::keyPressEvent(event);
+        option->click();
 }
 
 void MainWindow::closeEvent(QCloseEvent* /*event*/)

@@ -2,6 +2,7 @@
 // on a light and on a dark desktop. The same word list gives the same pictures.
 #include "game/board.h"
 #include "game/game.h"
+#include "game/game_view.h"
 #include "ui/main_window.h"
 #include "ui/system_platform.h"
 
@@ -9,7 +10,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPixmap>
-#include <QStyle>
 
 #include <algorithm>
 #include <cstdio>
@@ -120,6 +120,22 @@ bool Draw(MainWindow& window, const QString& file)
     return false;
 }
 
+bool DrawDesktop(
+    const char* wordList, const QString& folder, const QPalette& desktop, const char* ending)
+{
+    QApplication::setPalette(desktop);
+    Board board;
+    QuickView view;
+    SameEveryTime platform;
+    Game game{board, view, platform, wordList};
+    MainWindow window(game);
+    window.show();
+    const QString file = folder + QStringLiteral("%1%2.png");
+    const bool drawn = Draw(window, file.arg(QLatin1String("level-panel"), QLatin1String(ending)));
+    PlayAWhile(window, board);
+    return Draw(window, file.arg(QLatin1String("game"), QLatin1String(ending))) && drawn;
+}
+
 } // namespace
 
 // Takes the word list and the folder for the pictures.
@@ -132,23 +148,7 @@ int main(int argc, char* argv[])
         return EXIT_FAILURE;
     }
     const QString folder = QString::fromLocal8Bit(argv[2]) + u'/';
-    const QPalette light = QApplication::style()->standardPalette();
-
-    Board board;
-    QuickView view;
-    SameEveryTime platform;
-    Game game{board, view, platform, argv[1]};
-    MainWindow window(game);
-    window.show();
-    bool drawn = true;
-    const auto drawBoth = [&](const QString& name) {
-        QApplication::setPalette(light);
-        drawn = Draw(window, folder + name + u".png") && drawn;
-        QApplication::setPalette(DarkDesktop());
-        drawn = Draw(window, folder + name + u"-dark.png") && drawn;
-    };
-    drawBoth(QStringLiteral("level-panel"));
-    PlayAWhile(window, board);
-    drawBoth(QStringLiteral("game"));
+    const bool drawn = DrawDesktop(argv[1], folder, QApplication::palette(), "")
+        && DrawDesktop(argv[1], folder, DarkDesktop(), "-dark");
     return drawn ? EXIT_SUCCESS : EXIT_FAILURE;
 }
