@@ -82,7 +82,7 @@ TEST_F(WordList, ExtremeGamesFindWhatIsProved)
 TEST_F(WordList, CandidatesOfAnyGameFit)
 {
     std::mt19937 draw(1);
-    for (int game = 0; game < 4000; ++game) {
+    for (int game = 0; game < 2000; ++game) {
         std::string hiddenWords;
         std::set<char> first;
         while (first.size() < 3) {

@@ -39,17 +39,18 @@ std::vector<int> TryEveryTrio(const Words& words)
 }
 
 // Words of few letters share many of them and have doubles; words of many letters have neither.
+// Each stands there backwards too, of the same letters, and one stands there twice.
 Words DrawWords(const std::string& alphabet, std::mt19937& draw)
 {
-    Words words(36, std::string(6, ' '));
-    for (std::string& word : words) {
-        for (char& letter : word) {
-            const auto upTo = draw() % alphabet.size() + 1;
-            letter = alphabet[draw() % upTo];
-        }
+    Words words;
+    for (int k = 0; k < 19; ++k) {
+        std::string word;
+        while (word.size() < 6)
+            word += alphabet[draw() % alphabet.size()];
+        words.push_back(word);
+        words.emplace_back(word.rbegin(), word.rend());
     }
-    words.push_back(words.front()); // a list may hold a word twice
-    words.emplace_back(words.front().rbegin(), words.front().rend());
+    words.push_back(words.front());
     return words;
 }
 
@@ -58,10 +59,10 @@ Words DrawWords(const std::string& alphabet, std::mt19937& draw)
 TEST(WordListTool, FindsTheTriosThatMakeTheMost)
 {
     std::mt19937 draw(1);
-    for (const std::string alphabet : {"abcdefg", "abcdefghijklmnopqrstuvwxyzABCDEF"}) {
+    for (const std::string alphabet : {"abcdefghijklmnopqrstuvwxyzABCDEF", "abcdefghi"}) {
         const Words words = DrawWords(alphabet, draw);
         std::vector<int> expected = TryEveryTrio(words);
-        expected.resize(500);
+        expected.resize(400);
         std::vector<int> found;
         for (const Trio& trio : LargestTrios(GroupByLetters(words), expected.size()))
             found.push_back(trio.makes);
