@@ -61,7 +61,7 @@ private:
 
 // Up to six letters on their way through SortLetters.
 struct SortLettersBuffer {
-    std::array<unsigned char, 6> Letters{}; // 0 behind the last letter
+    std::array<unsigned char, 6> Letters{}; // 0 where the word has fewer
     int Count = 0;
 
     bool operator==(const SortLettersBuffer&) const = default;

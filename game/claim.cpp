@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr double claimPrice = 1200;
-
 void RevealAllLetters(Board& board)
 {
     for (int k = 1; k <= 6; ++k) {

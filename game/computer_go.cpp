@@ -9,6 +9,7 @@
 #include "game/word_search.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 

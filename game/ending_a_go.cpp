@@ -32,9 +32,9 @@ void HideYourGo(Game& game)
     game.view.RefreshWindow();
 }
 
-// Looks the word up; the word list stays open. When it cannot be read, the player keeps the go.
 enum class LookUp { Found, NotFound, Failed };
 
+// Leaves the word list open, unless it cannot be read.
 LookUp LookUpWord(LexiconFile& lexicon, const std::string& word)
 {
     try {

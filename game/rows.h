@@ -1,8 +1,9 @@
-// What can be done with a row of boxes, or with the controls that arrange it, as a whole.
+// Rows of boxes taken whole, and the controls that arrange the player's row.
 #pragma once
 
 #include "game/board.h"
 
+#include <array>
 #include <string>
 
 // The texts of boxes 1 to 6, joined.
@@ -16,6 +17,7 @@ void Enable(LetterRow& row);
 void Disable(LetterRow& row);
 
 // The buttons that arrange the player's letters: "Lay Out Word", "+", "<", ">" and "Mix Letters".
-// A laying out takes them away together, and its end gives them back with the boxes of Text1.
+// A laying out takes them away; its end, "Pass" and "Jumble" give them back, and the boxes of Text1
+// with them.
 std::array<Button*, 5> ArrangingButtons(Board& board);
 void EnableArranging(Board& board);

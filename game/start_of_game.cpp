@@ -16,9 +16,10 @@ namespace {
 constexpr std::size_t wordLength = 6;
 constexpr int fewestCandidates = 300;
 
-// A list can allow three first letters and yet make them so rare that a draw of them would not come
-// in a player's lifetime. Fair lists need a handful of tries.
-constexpr int mostTries = 10000;
+// A long list can allow three first letters and yet make them so rare that no draw would meet them
+// while a player waits. A try reads the list about one and a half times, so that the drawing ends
+// after some seconds; a list of a few hundred words is never given up, however lopsided it is.
+constexpr int mostRecordsDrawnFrom = 1'000'000'000;
 
 void ClearLastGame(Board& board)
 {
@@ -54,7 +55,7 @@ bool FirstLettersDiffer(const Board& board)
 void DrawHiddenWords(Game& game, LexiconFile& lexicon, const FirstLetters& drawable)
 {
     Board& board = game.board;
-    for (int tries = 0; tries < mostTries; ++tries) {
+    for (int drawnFrom = 0; drawnFrom < mostRecordsDrawnFrom; drawnFrom += board.WordCount) {
         if (!TryCanSucceed(drawable, board.CurrentWord))
             break;
         for (int slot = 1; slot <= 3; ++slot) {

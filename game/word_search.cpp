@@ -10,13 +10,12 @@
 #include "game/start_of_game.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <string_view>
 #include <utility>
 
 namespace {
-
-constexpr double claimThreshold = 1200;
 
 // Six letters are in order after these twelve exchanges, whatever order they came in. No branch
 // depends on a letter, and a go of the computer sorts up to 72,000 words.
@@ -35,6 +34,7 @@ void FillSortBuffer(Board& board, std::string_view word)
 // which is how the default rounding mode of nearbyint has it.
 int SearchSpan(const Board& board)
 {
+    assert(board.Level >= 1);
     const int divisor = board.Level > 1 ? board.Level * 2 : board.Level;
     return static_cast<int>(std::nearbyint(static_cast<double>(board.CandidateCount) / divisor));
 }
@@ -45,7 +45,7 @@ void PlayWord(Game& game, const std::string& word)
     game.view.ShowMessage("My Word:" + word, "Word Found");
     board.List1.AddItem(word);
     AddPoints(board, board.MyScore);
-    if (NumberOf(board.MyScore.Text) > claimThreshold)
+    if (NumberOf(board.MyScore.Text) > claimPrice)
         ClaimThreeWords(game);
     board.ComputerScored = true;
     AddUsedWord(board, board.ProbeWord);

@@ -88,11 +88,6 @@ void PickRandomWord(
     lexicon.Close();
 }
 
-bool CanSpell(std::string_view letters, std::string_view word)
-{
-    return LetterPool(letters).CanSpell(word);
-}
-
 void CollectCandidates(LexiconFile& lexicon, std::int16_t wordCount, std::string_view pool,
     std::span<std::string> candidates, std::int16_t& count)
 {
@@ -117,4 +112,9 @@ bool FindWord(LexiconFile& openLexicon, std::string_view word)
             return true;
     }
     return false;
+}
+
+bool CanSpell(std::string_view letters, std::string_view word)
+{
+    return LetterPool(letters).CanSpell(word);
 }

@@ -1,6 +1,6 @@
-// The passes over the word list. Each opens the file, reads from its first record and closes it;
-// nothing is kept between passes. All throw LexiconError when the list cannot be read or ends
-// before its count.
+// The passes over the word list. Each but FindWord opens the file, reads from its first record and
+// closes it, unless it throws; nothing is kept between passes. All throw LexiconError when the list
+// cannot be read, or ends before the records that it was counted to have.
 #pragma once
 
 #include <bitset>
@@ -23,9 +23,6 @@ FirstLetters CountWords(LexiconFile& lexicon, std::int16_t& wordCount, std::stri
 void PickRandomWord(
     LexiconFile& lexicon, std::int16_t wordCount, float draw, std::string& currentWord);
 
-// True when the letters, each taken once, spell the first six of the word.
-bool CanSpell(std::string_view letters, std::string_view word);
-
 // Appends to `candidates`, of which `count` are in use, the records whose first six letters can be
 // spelled from the pool. Throws LexiconError when one more would not fit.
 void CollectCandidates(LexiconFile& lexicon, std::int16_t wordCount, std::string_view pool,
@@ -34,3 +31,6 @@ void CollectCandidates(LexiconFile& lexicon, std::int16_t wordCount, std::string
 // Reads on in an open word list until a record equals the word; the file stays open, and what is
 // behind the word is left unread.
 bool FindWord(LexiconFile& openLexicon, std::string_view word);
+
+// What makes a record a candidate: the letters, each taken once, spell its first six.
+bool CanSpell(std::string_view letters, std::string_view word);

@@ -180,6 +180,7 @@ TEST_F(ComputerGo, FallbackMoves)
                 EXPECT_FALSE(board.Label5.Visible);
                 if (!row.jumbles) {
                     EXPECT_EQ(Spell(board.MyLetters), "pmanet") << "exchanged before it is told";
+                    EXPECT_EQ(board.FruitlessSwaps, row.after);
                 }
             };
             Command8_Click(game);
@@ -208,6 +209,12 @@ TEST_F(ComputerGo, TwelveEqualLettersEndTheGo)
     EXPECT_TRUE(view.calls.empty() && platform.draws.empty());
     EXPECT_TRUE(board.Label5.Visible && board.SwapLetters(6).Enabled);
     EXPECT_EQ(board.FruitlessSwaps, 0);
+
+    board.Check1 = 0;
+    board.SwapLetters(6).Text = "p"; // one other letter is enough for an exchange
+    platform.draws = {0, 0, justBelowOne};
+    Command8_Click(game);
+    EXPECT_EQ(Spell(board.MyLetters) + Spell(board.SwapLetters), "peeeeeeeeeee");
 }
 
 TEST_F(ComputerGo, ClaimIsWeighedAgainstThePlayersScore)
@@ -233,8 +240,11 @@ TEST_F(ComputerGo, ClaimIsWeighedAgainstThePlayersScore)
         board.List1.Clear();
         board.UsedCount = 0;
         board.Text9.Text = " 10";
-        board.Word1(2).Text = board.Text6(2).Text = "";
+        for (LetterRow* shown :
+            {&board.Word1, &board.Word2, &board.Word3, &board.Text6, &board.Text7, &board.Text8})
+            Empty(*shown);
         board.Frame1.Visible = false;
+        board.Frame9.Visible = true;
         SetCandidates({"simple", "slanet"}, 2);
         view.calls.clear();
         view.answers.clear();
@@ -250,7 +260,10 @@ TEST_F(ComputerGo, ClaimIsWeighedAgainstThePlayersScore)
                 EXPECT_EQ(board.Text9.Text, " 10") << "the bonus from before the word";
                 EXPECT_EQ(board.List1.ListCount(), 1);
                 EXPECT_EQ(board.UsedCount, 0);
-                EXPECT_EQ(board.Word1(2).Text, call.ends_with("Play Again") ? "l" : "");
+                EXPECT_EQ(Spell(board.Word1) + Spell(board.Word2) + Spell(board.Word3),
+                    call.ends_with("Play Again") ? "planetgardensimple" : "");
+                EXPECT_EQ(Spell(board.Text6) + Spell(board.Text7) + Spell(board.Text8),
+                    call.ends_with("Play Again") ? "planetgardensimple" : "");
             }
         };
         board.Check1 = 1;
@@ -267,7 +280,10 @@ TEST_F(ComputerGo, ClaimIsWeighedAgainstThePlayersScore)
         EXPECT_EQ(board.Frame1.Visible, row.ending != nullptr);
         EXPECT_EQ(board.UsedWords(1), "slanet") << "the rest of the go runs after a claim too";
         EXPECT_EQ(board.Text9.Text, " 10");
-        EXPECT_TRUE(board.Label5.Visible && board.ComputerScored && board.Frame4.Visible);
+        EXPECT_TRUE(board.Label5.Visible && board.ComputerScored);
+        EXPECT_TRUE(board.Frame2.Visible && board.Frame3.Visible && board.Frame4.Visible
+            && board.Frame5.Visible && board.Frame7.Visible && board.Frame9.Visible)
+            << "a claim hides no frame";
     }
 }
 
@@ -278,7 +294,6 @@ TEST_F(ComputerGo, ClaimAndNoEndsTheProgramThere)
     view.answers = {Answer::No};
     EXPECT_TRUE(Ends([this] { Command8_Click(game); }));
     EXPECT_EQ(board.UsedCount, 0);
-    EXPECT_EQ(Spell(board.Text8) + Spell(board.Word2), "simplegarden");
 }
 
 } // namespace

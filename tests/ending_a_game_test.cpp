@@ -81,6 +81,7 @@ TEST_F(EndingAGame, BuyingALetter)
             guess(row.box).Text, row.score != std::string(row.scoreAfter) ? row.bought : "typed")
             << row.rule;
         EXPECT_EQ(view.calls, row.refused ? Calls{"Quorvel2: You can't buy letters"} : Calls{});
+        EXPECT_TRUE(board.Label5.Visible);
     }
 }
 
@@ -98,6 +99,8 @@ TEST_F(EndingAGame, GuessesThatAreNotRight)
                 b.Text6(1).Text = "x";
             },
             false},
+        {"one empty box, the rest right", [](Board& b) { b.Text7(3).Text = ""; }, false},
+        {"the third word alone is wrong", [](Board& b) { b.Text8(3).Text = "l"; }, true},
         {"a blank fills a box", [](Board& b) { b.Text6(2).Text = " "; }, true},
         {"two letters in one box", [](Board& b) { b.Text7(2).Text = "ll"; }, true},
         {"a capital", [](Board& b) { b.Text6(1).Text = "S"; }, true},
@@ -141,7 +144,7 @@ TEST_F(EndingAGame, ARightGuessNamesTheWinner)
         view.answers = {Answer::No};
         view.during = [&](const std::string& call) {
             EXPECT_EQ(board.YourScore.Text, call.ends_with("Well Done") ? row.yours : row.doubled);
-            EXPECT_TRUE(board.Frame2.Visible);
+            EXPECT_TRUE(board.Frame2.Visible && board.Frame3.Visible && board.Frame9.Visible);
         };
         EXPECT_TRUE(Ends([this] { Click("Command7"); }));
         EXPECT_EQ(view.calls,
@@ -159,6 +162,8 @@ TEST_F(EndingAGame, ARightGuessLeavesThePanelAlone)
     EXPECT_TRUE(Click("Command7"));
     EXPECT_EQ(Line(board), "you=pl.net me=simple swap=garden held=a3 you:0 me:0");
     EXPECT_TRUE(board.Frame1.Visible && board.Command2.Visible);
+    EXPECT_FALSE(board.Frame2.Visible || board.Frame3.Visible || board.Frame4.Visible
+        || board.Frame5.Visible || board.Frame7.Visible || board.Frame9.Visible);
     EXPECT_EQ(Spell(board.Text6) + Spell(board.Text7) + Spell(board.Text8), "");
     for (const char* control : {"Text1", "SwapLetters", "Command3", "Command7", "Word1"})
         EXPECT_FALSE(Click(control, 1)) << control << " is out of view";
@@ -175,6 +180,7 @@ TEST_F(EndingAGame, GiveIn)
     whole.insert(whole.end(),
         {"Quorvel2: The Words Were: simple : planet : garden", "New Game? Play Again?"});
 
+    EXPECT_FALSE(Click("Command1") || Click("Option1", 2)) << "the level panel is away";
     Click("Text1", 3);
     SetBoard(board, "you:200 me:150");
     board.List1.AddItem("planet");
@@ -211,6 +217,9 @@ TEST_F(EndingAGame, DisabledControlsAreHandedOn)
     for (const Row& row : {Row{"+", "Command16", true}, Row{"a laying out", "Command9", false}}) {
         board.Check1 = 0;
         Click(row.pressed);
+        board.YourScore.Text = "100";
+        board.Word1(2).Text = "";
+        EXPECT_TRUE(Click("Word1", 2)) << "letters are for sale all the time";
         view.answers = {Answer::Yes, Answer::Yes};
         PlayStart();
         Click("Command10");
@@ -218,6 +227,8 @@ TEST_F(EndingAGame, DisabledControlsAreHandedOn)
         EXPECT_TRUE(board.SwapLetters(1).Enabled) << row.rule;
         EXPECT_EQ(board.Command9.Enabled, row.arrangingEnabled) << row.rule;
         EXPECT_EQ(board.Text1(6).Enabled, row.arrangingEnabled) << row.rule;
+        platform.Play(row.arrangingEnabled ? 6 : 0, 0);
+        EXPECT_EQ(Click("Command6"), row.arrangingEnabled) << row.rule;
         platform.draws = {0, 0, 0}; // no jumble, then s for g
         board.Candidates(1) = "zzzzzz";
         board.CandidateCount = 1;

@@ -72,6 +72,7 @@ TEST_F(EndingAGo, OutcomesOfSubmitWord)
             AddUsedWord(board, word);
             RaiseBonus(board);
         }
+        board.Command4.Enabled = board.Text1(2).Enabled = false;
         const bool ends = row.calls.front() == "refresh";
         const bool scores = row.calls.back() == "Quorvel2: Word Accepted";
         view.calls.clear();
@@ -89,6 +90,7 @@ TEST_F(EndingAGo, OutcomesOfSubmitWord)
             << row.rule;
         EXPECT_TRUE(platform.draws.empty()) << row.rule;
         EXPECT_TRUE(board.Label5.Visible) << row.rule;
+        EXPECT_FALSE(board.Command4.Enabled || board.Text1(2).Enabled) << row.rule;
     }
 }
 
@@ -112,6 +114,7 @@ TEST_F(EndingAGo, AListThatIsGoneCostsNothing)
 {
     std::filesystem::remove(list.Path());
     board.Command16.Enabled = false;
+    view.during = [this](const std::string&) { EXPECT_FALSE(board.Label5.Visible); };
     Command3_Click(game);
     EXPECT_EQ(view.calls,
         (Calls{
@@ -155,6 +158,49 @@ TEST_F(EndingAGo, PassAndJumble)
             EXPECT_TRUE(button->Enabled) << row.rule;
         EXPECT_TRUE(platform.draws.empty());
     }
+}
+
+TEST_F(EndingAGo, ADealIsToldWhenTheWordHasScoredAndBeforeTheGoEnds)
+{
+    board.Check1 = 1;
+    board.FruitlessSwaps = 2;
+    board.Candidates(1) = "slanet"; // the computer's first trial
+    std::vector<std::string> seen;
+    view.during = [&](const std::string& call) {
+        if (call == "Quorvel2: Letters Jumbled") {
+            seen.push_back(Line(board) + " bonus:" + board.Text9.Text
+                + " used:" + std::to_string(board.UsedCount)
+                + " fruitless:" + std::to_string(board.FruitlessSwaps));
+            EXPECT_FALSE(board.Command4.Enabled || board.Label5.Visible);
+        }
+    };
+    board.Command4.Enabled = false;
+    platform.Play(18 + 18, 0);
+    Command3_Click(game);
+    EXPECT_EQ(seen,
+        (Calls{"you=garden me=planet swap=simple you:50 me:0 bonus: 10 used:1 fruitless:2",
+            "you=garden me=planet swap=simple you:50 me:60 bonus: 20 used:2 fruitless:0"}));
+
+    seen.clear();
+    board.Candidates(1) = "planee"; // the last trial
+    SetBoard(board, "swap=SIMPLE");
+    board.Command4.Enabled = false;
+    platform.Play(18, 0);
+    Command13_Click(game);
+    EXPECT_EQ(
+        seen, Calls{"you=garden me=planet swap=simple you:50 me:130 bonus: 30 used:3 fruitless:0"});
+}
+
+TEST_F(EndingAGo, ALayingOutAfterJumbleStartsFromTheFirstBox)
+{
+    Command9_Click(game);
+    Text2_Click(game, 6);
+    platform.Play(18, 0);
+    PlayFruitlessGo();
+    Command14_Click(game);
+    Command9_Click(game);
+    Text2_Click(game, 2);
+    EXPECT_EQ(board.Text1(1).Text, "a");
 }
 
 TEST_F(EndingAGo, ALayingOutGoesOnAfterPass)
@@ -207,7 +253,7 @@ TEST_F(EndingAGo, AClickInsideTheRepaintRunsToItsEndFirst)
         Calls calls;
     };
     const Row rows[] = {
-        {"Jumble inside Submit", "Command3", "Command14",
+        {"Jumble inside Submit, which goes by its word", "Command3", "Command14",
             {"refresh", "refresh", "Quorvel2: Word Accepted"}},
         {"Submit inside Submit scores twice", "Command3", "Command3",
             {"refresh", "refresh", "Quorvel2: Word Accepted", "Quorvel2: Word Accepted"}},
@@ -230,6 +276,8 @@ TEST_F(EndingAGo, AClickInsideTheRepaintRunsToItsEndFirst)
         };
         if (row.outer == std::string("SwapLetters"))
             Text1_Click(game, 1);
+        // A jumble turns the letters round; all other draws are 0.
+        platform.Play(row.nested == std::string("Command14") ? 18 : 0, justBelowOne);
         platform.Play(200, 0);
         Deliver(game, *FindClick(row.outer), 1);
         platform.draws.clear();

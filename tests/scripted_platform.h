@@ -1,4 +1,4 @@
-// Chance as a script: the draws are prepared, and a test checks that none is left.
+// Chance as a script: the draws are prepared, and one too many is a failure.
 #pragma once
 
 #include "game/platform.h"

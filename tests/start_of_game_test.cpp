@@ -28,6 +28,12 @@ protected:
             platform.draws.push_back(DrawOf(position + 1, words));
     }
 
+    bool AnyGameFrameVisible() const
+    {
+        return board.Frame2.Visible || board.Frame3.Visible || board.Frame4.Visible
+            || board.Frame5.Visible || board.Frame7.Visible || board.Frame9.Visible;
+    }
+
     bool OkEnds()
     {
         return Ends([this] { Command1_Click(game); });
@@ -70,16 +76,16 @@ TEST_F(StartOfGame, BoardAfterOk)
     list.Write("garden\nsimple\n" + Unspellable(1) + "planet");
     Form_Load(game);
     Option1_Click(game, 3);
+    EXPECT_FALSE(AnyGameFrameVisible());
     PlayPicks(4, {0, 1, 2}); // the last record, then the first two
     platform.Play(18, 0);
     view.during = [this](const std::string& call) {
         EXPECT_EQ(call, "refresh");
-        EXPECT_FALSE(board.Frame1.Visible || board.Command2.Visible || board.Frame4.Visible);
+        EXPECT_FALSE(board.Frame1.Visible || board.Command2.Visible || AnyGameFrameVisible());
         EXPECT_EQ(board.Caption, "Quorvel") << "the title comes after the repaint";
     };
     EXPECT_FALSE(OkEnds());
     EXPECT_EQ(view.calls.size(), 1U) << "the first deal of the process is silent";
-    EXPECT_TRUE(platform.draws.empty());
     EXPECT_EQ(Line(board), "you=garden me=planet swap=simple you:0 me:0");
     EXPECT_EQ(board.Caption, "Quorvel - Level: 3   No. Of words with these letters:  300");
     EXPECT_EQ(
@@ -89,13 +95,19 @@ TEST_F(StartOfGame, BoardAfterOk)
     EXPECT_TRUE(board.Frame2.Visible && board.Frame3.Visible && board.Frame4.Visible
         && board.Frame5.Visible && board.Frame7.Visible && board.Frame9.Visible);
     EXPECT_EQ(board.Check1, 1);
+    EXPECT_EQ(platform.seeds, std::vector<float>{43200.5F});
     EXPECT_TRUE(BoardIsOk(board));
 }
 
 TEST_F(StartOfGame, LeavesWhatBelongsToThePlayer)
 {
     list.Write("garden\nsimple\nplanet");
+    Form_Load(game);
     Option1_Click(game, 6);
+    for (LetterRow* row :
+        {&board.Word1, &board.Word2, &board.Word3, &board.Text6, &board.Text7, &board.Text8})
+        (*row)(2).Text = "x";
+    board.FruitlessSwaps = 2;
     SetBoard(board, "you=ABCDEF swap=GHIJKL up=.x.... you:200 me:150");
     board.List1.AddItem("before");
     board.UsedWords(1) = "before";
@@ -112,12 +124,19 @@ TEST_F(StartOfGame, LeavesWhatBelongsToThePlayer)
     view.during = [this](const std::string& call) {
         if (call != "refresh") {
             EXPECT_EQ(Line(board), "you=NEDRAG me=elpmis swap=TENALP up=.x.... you:200 me:150");
+            EXPECT_EQ(board.FruitlessSwaps, 2);
+            EXPECT_EQ(board.Word1(1).Text, "") << "nothing is shown before the deal";
+            EXPECT_FALSE(AnyGameFrameVisible());
         }
     };
     EXPECT_FALSE(OkEnds());
     EXPECT_EQ(view.calls.back(), "Quorvel2: Letters Jumbled");
     EXPECT_EQ(Line(board), "you=NEDRAG me=elpmis swap=tenalp you:200 me:150");
     EXPECT_TRUE(BoardIsOk(board)) << "no letter is left in the hand, no word in the ledger";
+    EXPECT_EQ(board.UsedWords(1), "");
+    EXPECT_EQ(Spell(board.Word1) + Spell(board.Word2) + Spell(board.Word3), "pngdsp");
+    EXPECT_EQ(Spell(board.Text6) + Spell(board.Text7) + Spell(board.Text8), "pngdsp");
+    EXPECT_EQ(board.FruitlessSwaps, 0);
     EXPECT_EQ(board.LayOutNext, 3);
     EXPECT_FALSE(board.Command16.Enabled || board.Command4.Enabled || board.Label5.Visible);
 }
@@ -134,7 +153,6 @@ TEST_F(StartOfGame, TriesAreDrawnAnewAsAWhole)
     EXPECT_FALSE(OkEnds());
     EXPECT_EQ(
         board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3), "simplegoldenplanet");
-    EXPECT_TRUE(platform.draws.empty());
 }
 
 struct ListCase {
@@ -185,11 +203,20 @@ TEST_F(StartOfGame, ListsThatMakeNoGameEndInTheMessage)
 TEST_F(StartOfGame, AThirdFirstLetterTooRareToComeEndsInTheMessage)
 {
     // Three first letters, but every draw falls on the first of them.
-    list.Write("planet\nplanet\ngarden\nsimple\nsimple\n");
+    list.Write(Unspellable(32764) + "planet\ngarden\nsimple\n");
     Option1_Click(game, 1);
-    platform.Play(30000, DrawOf(2, 5));
+    platform.Play(3 * 30519, DrawOf(2, 32767));
     EXPECT_TRUE(OkEnds());
-    EXPECT_TRUE(platform.draws.empty());
+}
+
+TEST_F(StartOfGame, FirstLettersOfTwoCasesDiffer)
+{
+    list.Write("planet\nPardon\ngarden\nsimple");
+    Option1_Click(game, 1);
+    PlayPicks(4, {1, 2, 3});
+    platform.Play(18, 0);
+    EXPECT_FALSE(OkEnds());
+    EXPECT_EQ(board.HiddenWords(2), "Pardon");
 }
 
 TEST_F(StartOfGame, CandidatesAreRepeatedUpToThreeHundred)

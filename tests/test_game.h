@@ -36,6 +36,12 @@ protected:
     {
     }
 
+    void TearDown() override
+    {
+        EXPECT_TRUE(platform.draws.empty()) << "draws that no rule took";
+        EXPECT_TRUE(view.answers.empty()) << "answers to no question";
+    }
+
     WordListFile list;
     std::unique_ptr<Board> boardInHeap = std::make_unique<Board>();
     Board& board = *boardInHeap;
