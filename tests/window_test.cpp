@@ -1,0 +1,478 @@
+// The real window, clicked and typed in as players do it, and its message boxes answered.
+
+#include "game/board.h"
+#include "test_game.h"
+#include "ui/main_window.h"
+#include "ui/qt_view.h"
+#include "ui/roster.h"
+#include "ui/system_platform.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <set>
+
+namespace {
+
+// Chance that is the same in every run, with a hook into the work between two paintings.
+class SteadyPlatform : public SystemPlatform {
+public:
+    std::function<void()> onDraw;
+
+    float DrawRandom() override
+    {
+        if (onDraw)
+            std::exchange(onDraw, nullptr)();
+        return SystemPlatform::DrawRandom();
+    }
+    float ClockSeconds() override { return 43200.5F; }
+};
+
+// Ends the process for real, but a test that does not look for it fails.
+class EndingView : public QtView {
+public:
+    bool mayEnd = false;
+
+    [[noreturn]] void EndProgram() override
+    {
+        if (mayEnd)
+            QtView::EndProgram();
+        std::_Exit(EXIT_FAILURE);
+    }
+};
+
+class Window : public testing::Test {
+protected:
+    Window()
+    {
+        view.PlayIn(window);
+        QObject::connect(&answerer, &QTimer::timeout, &answerer, [this] { AnswerMessage(); });
+        answerer.start(0);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QCoreApplication::processEvents();
+    }
+
+    WordListFile list{"planet\ngarden\nsimple\nplanet\n"};
+    std::unique_ptr<Board> boardInHeap = std::make_unique<Board>();
+    Board& board = *boardInHeap;
+    SteadyPlatform platform;
+    EndingView view;
+    Game game{board, view, platform, list.Path()};
+    MainWindow window{game};
+
+    std::vector<std::string> messages;               // "Quorvel2: Word Accepted"
+    std::deque<QMessageBox::StandardButton> answers; // to the questions; a message gets its OK
+    std::function<void()> whileOpen; // what happens on the window while a message is open
+    QTimer answerer;
+
+    template <typename T = QWidget> T* Named(const QString& name) const
+    {
+        return window.findChild<T*>(name);
+    }
+    QString Focused() const { return window.focusWidget()->objectName(); }
+    std::string Spoken(const char* name) const
+    {
+        return Named(name)->accessibleName().toStdString();
+    }
+
+    // Presses the mouse at the place of the control, whatever stands there.
+    void Click(const QString& name)
+    {
+        QWidget* widget = Named(name);
+        ASSERT_NE(widget, nullptr) << name.toStdString();
+        // The left edge of the level panel's backing is all that shows of it.
+        const QPoint at = name == "Command2" ? QPoint(3, 40) : widget->rect().center();
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&window, at));
+    }
+
+    // One step a text: "Command1" is a click, "Text6=planet" typing from the first box of a row on,
+    // "Text6=#1" typing hidden word 1, "key Right" a key, "you=planet me:50" a change of the board.
+    void Play(const std::vector<QString>& steps)
+    {
+        for (const QString& step : steps) {
+            QApplication::setActiveWindow(&window); // as it is again after a message
+            const QString row = step.section('=', 0, 0);
+            if (step.startsWith("key ")) {
+                QTest::keySequence(window.focusWidget(), QKeySequence(step.mid(4)));
+            } else if (row.startsWith("Text")) {
+                step.contains('=') ? Type(row, step.section('=', 1)) : Click(step);
+            } else if (step.contains('=') || step.contains(':')) {
+                SetBoard(board, step.toStdString());
+                window.ShowBoard();
+            } else {
+                Click(step);
+            }
+        }
+    }
+
+    // What the table of the game's states shows, read off the widgets: 1 is on view or enabled, 0
+    // is not, and ? is some of them only.
+    std::string State() const
+    {
+        const auto all = [this](const std::vector<QString>& names, bool (QWidget::*test)() const) {
+            std::set<bool> found;
+            for (const QString& name : names)
+                found.insert((Named(name)->*test)());
+            return found.size() > 1 ? "?" : *found.begin() ? "1" : "0";
+        };
+        std::vector<QString> swap;
+        std::vector<QString> rest{"Command4", "Command5", "Command6", "Command9"};
+        for (int box = 1; box <= 6; ++box) {
+            swap.push_back(QString("SwapLetters(%1)").arg(box));
+            rest.push_back(QString("Text1(%1)").arg(box));
+        }
+        const auto shown = &QWidget::isVisible;
+        const auto enabled = &QWidget::isEnabled;
+        const QLabel* yourGo = Named<QLabel>("Label5");
+        return std::string("panel ") + all({"Frame1", "Command2"}, shown) + " frames "
+            + all({"Frame2", "Frame3", "Frame4", "Frame5", "Frame7", "Frame9"}, shown) + " go "
+            + (yourGo->isHidden() ? "0" : "1") + " swap " + all(swap, enabled) + " + "
+            + all({"Command16"}, enabled) + " rest " + all(rest, enabled);
+    }
+
+private:
+    void Type(const QString& row, const QString& text)
+    {
+        Named(row + "(1)")->setFocus(Qt::TabFocusReason);
+        const bool hidden = text.startsWith('#');
+        const std::string word
+            = hidden ? board.HiddenWords(text.mid(1).toInt()) : text.toStdString();
+        for (const char letter : word)
+            QTest::keyClick(window.focusWidget(), letter);
+    }
+
+    void AnswerMessage()
+    {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr)
+            return;
+        EXPECT_EQ(box->icon(), QMessageBox::NoIcon);
+        messages.push_back((box->windowTitle() + ": " + box->text()).toStdString());
+        if (whileOpen)
+            whileOpen();
+        auto button = QMessageBox::Ok;
+        if (box->button(button) == nullptr) {
+            ASSERT_FALSE(answers.empty()) << "no answer is prepared for: " << messages.back();
+            button = answers.front();
+            answers.pop_front();
+        }
+        QTest::mouseClick(box->button(button), Qt::LeftButton);
+    }
+};
+
+const std::vector<QString> start{"Option1(1)", "Command1"};
+
+TEST_F(Window, EverythingHasItsPlaceAndNoCaptionIsClipped)
+{
+    Play(start);
+    ASSERT_EQ(window.frameSize(), QSize(664, 499));
+    std::map<std::string, QRect> frames;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const std::string name = widget->objectName().toStdString();
+        if (name.empty() || name.starts_with("qt_") || name.starts_with("Command2"))
+            continue;
+        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+        EXPECT_TRUE(window.rect().contains(place)) << name;
+        EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
+        if (widget->parentWidget() == &window && name != "Frame1")
+            frames[name] = place;
+        if (const QString caption = widget->property("text").toString(); caption.size() > 1) {
+            const QFontMetrics metrics(widget->font());
+            EXPECT_LE(metrics.horizontalAdvance(caption), widget->width()) << name;
+            EXPECT_GE(widget->font().pixelSize(), 9) << name;
+        }
+    }
+    ASSERT_EQ(frames.size(), 6U);
+    for (const auto& [left, right] :
+        {std::pair{"Frame2", "Frame3"}, {"Frame4", "Frame5"}, {"Frame7", "Frame9"}}) {
+        EXPECT_EQ(frames[left].left(), frames[right].left());
+        EXPECT_EQ(frames[left].width(), frames[right].width());
+    }
+    for (const auto& [name, place] : frames) {
+        EXPECT_LE(place.right() + 1, ReachRight / 15) << name;
+        EXPECT_LE(place.bottom() + 1, ReachDown / 15) << name;
+        for (const auto& [other, otherPlace] : frames)
+            EXPECT_TRUE(name == other || !place.intersects(otherPlace)) << name << " " << other;
+    }
+    EXPECT_EQ(Named("Text1(6)")->geometry().right(), Named("SwapLetters(1)")->geometry().left());
+}
+
+TEST_F(Window, HoldsItsSize)
+{
+    // The panel stands where it was centred on the window as first built.
+    EXPECT_EQ(Named("Frame1")->pos(), QPoint(294, 144));
+    const QPoint panel = Named("Frame1")->pos();
+    for (const QSize size : {QSize(900, 700), QSize(300, 200)}) {
+        window.resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window.frameSize(), QSize(664, 499));
+        EXPECT_EQ(board.WindowWidth, 664 * 15);
+        EXPECT_EQ(board.WindowHeight, 499 * 15);
+    }
+    // A window manager that gives another size all the same is not fought.
+    window.showMinimized();
+    window.showMaximized();
+    window.showNormal();
+    window.windowHandle()->resize(900, 700);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(board.WindowWidth, window.frameSize().width() * 15);
+    EXPECT_EQ(Named("Frame1")->pos(), panel);
+}
+
+TEST_F(Window, ShowsEveryStateOfTheGame)
+{
+    using Button = QMessageBox::StandardButton;
+    struct Row {
+        const char* state;
+        std::vector<QString> steps;
+        std::deque<Button> answers;
+        const char* expected;
+    };
+    const Button yes = QMessageBox::Yes;
+    const std::vector<Row> rows{
+        {"program start", {"Command1", "Command2", "key Return"}, {},
+            "panel 1 frames 0 go 1 swap 1 + 1 rest 1"},
+        {"player's go", start, {}, "panel 0 frames 1 go 1 swap 1 + 1 rest 1"},
+        {"nothing in the hand", {"SwapLetters(3)"}, {}, "panel 0 frames 1 go 1 swap 1 + 1 rest 1"},
+        {"after an exchange", {"Text1(2)", "SwapLetters(3)"}, {},
+            "panel 0 frames 1 go 1 swap 0 + 1 rest 1"},
+        {"after +", {"Command16"}, {}, "panel 0 frames 1 go 1 swap 0 + 0 rest 1"},
+        {"laying out after +", {"Command9"}, {}, "panel 0 frames 1 go 1 swap 0 + 0 rest 0"},
+        {"laid out",
+            {"Text2(6)", "Text2(5)", "Text2(4)", "Text2(3)", "Text2(2)", "Text2(2)", "Text2(1)"},
+            {}, "panel 0 frames 1 go 1 swap 0 + 1 rest 1"},
+        {"after the computer's go", {"Command13"}, {}, "panel 0 frames 1 go 1 swap 1 + 1 rest 1"},
+        {"right guess while laying out",
+            {"Command9", "Text6=#1", "Text7=#2", "Text8=#3", "Command7"}, {yes},
+            "panel 1 frames 0 go 1 swap 1 + 0 rest 0"},
+        {"second game carries the flags on", {"Command1"}, {},
+            "panel 0 frames 1 go 1 swap 1 + 0 rest 0"},
+        {"Pass gives them back", {"Command13"}, {}, "panel 0 frames 1 go 1 swap 1 + 1 rest 1"},
+        {"claim", {"me=slanet swap=pgarde you=nimple me:1250", "Command13"}, {yes},
+            "panel 1 frames 1 go 1 swap 1 + 1 rest 1"},
+        {"third game, by Enter", {"key Return"}, {}, "panel 0 frames 1 go 1 swap 1 + 1 rest 1"},
+        {"given in", {"Command16", "Command10"}, {yes, yes},
+            "panel 0 frames 1 go 1 swap 1 + 0 rest 1"},
+    };
+    for (const Row& row : rows) {
+        answers = row.answers;
+        Play(row.steps);
+        EXPECT_EQ(State(), row.expected) << row.state;
+        EXPECT_TRUE(answers.empty()) << row.state;
+    }
+}
+
+TEST_F(Window, PlaysToEachEndOfAGame)
+{
+    const auto yes = QMessageBox::Yes;
+    const auto no = QMessageBox::No;
+    struct Row {
+        const char* end;
+        std::vector<QString> steps;
+        std::deque<QMessageBox::StandardButton> answers; // yes to the last of them
+        std::vector<std::string> messages;
+    };
+    const std::vector<Row> rows{
+        {"right guess", {"you:300 me:500", "Text6=#1", "Text7=#2", "Text8=#3", "Command7"}, {yes},
+            {"Quorvel2: CORRECT!! Well Done", "Quorvel2: You win with a Score Of: 600",
+                "New Game: Play Again"}},
+        {"claim",
+            {"Command1", "Check1", "me=sardeg swap=nimpln you=planet you:100 me:1200", "Command13"},
+            {yes},
+            {"Word Found: My Word:garden",
+                "Quorvel2: I now know all three words But You Still WIN!!",
+                "New Game: Play Again"}},
+        {"given in", {"Command1", "Command10", "Command10"}, {no, yes, yes},
+            {"Do I win?: Do You Resign? and Make Me The Winner!!",
+                "Do I win?: Do You Resign? and Make Me The Winner!!", "Quorvel2: The Words Were: ",
+                "New Game: Play Again?", "Quorvel2: Letters Jumbled"}},
+    };
+    Play(start);
+    Play({"Check1", "you=planet", "Command3"});
+    EXPECT_EQ(messages.front(), "Quorvel2: Word Accepted");
+    EXPECT_EQ(Spoken("YourScore"), "Your score: 50");
+    EXPECT_EQ(Named<QListWidget>("List1")->item(0)->text(), "planet");
+    for (const Row& row : rows) {
+        messages.clear();
+        answers = row.answers;
+        Play(row.steps);
+        ASSERT_EQ(messages.size(), row.messages.size()) << row.end;
+        for (std::size_t i = 0; i < messages.size(); ++i)
+            EXPECT_TRUE(messages[i].starts_with(row.messages[i])) << messages[i];
+    }
+    EXPECT_EQ(board.YourScore.Text, "0"); // the claim's, that giving in carries on
+}
+
+TEST_F(Window, EndsTheProcessWhenThePlayerWantsNoMore)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    using Answers = std::deque<QMessageBox::StandardButton>;
+    const auto no = QMessageBox::No;
+    const std::vector<std::pair<std::vector<QString>, Answers>> lastGames{
+        {{"Command10"}, {QMessageBox::Yes, no}},
+        {{"Text6=#1", "Text7=#2", "Text8=#3", "Command7"}, {no}},
+        {{"me=slanet swap=pgarde you=nimple me:1250", "Command13"}, {no}}};
+    view.mayEnd = true;
+    Play(start);
+    for (const auto& [steps, prepared] : lastGames) {
+        answers = prepared;
+        EXPECT_EXIT(Play(steps), testing::ExitedWithCode(0), "");
+    }
+    EXPECT_EXIT(window.close(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(Window, DrawsAtItsMomentsAlone)
+{
+    const auto yourGoOnScreen = [this] {
+        const QPoint at = Named("Label5")->mapTo(&window, QPoint(4, 4));
+        return window.screen()->grabWindow(window.winId()).toImage().pixelColor(at)
+            == QColor(255, 255, 128);
+    };
+    Play(start);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(yourGoOnScreen());
+
+    // The label has gone before the slow work starts, and a click that was waiting has run by then.
+    const std::string before = Spoken("SwapLetters(2)");
+    bool drawn = false;
+    QTimer::singleShot(0, &window, [this] { Click("Command15"); });
+    platform.onDraw = [&] {
+        drawn = true;
+        EXPECT_FALSE(yourGoOnScreen());
+        EXPECT_NE(Spoken("SwapLetters(2)"), before);
+    };
+    // While a message is open the board shows as it is at that moment, and nothing answers.
+    bool opened = false;
+    whileOpen = [&] {
+        const std::string line = Line(board);
+        for (const char* control : {"Command15", "Text1(1)", "Check1", "Text6(2)"})
+            Click(control);
+        QTest::keyClick(window.windowHandle(), 'x');
+        EXPECT_EQ(Line(board), line);
+        EXPECT_EQ(board.Text6(2).Text, "");
+        EXPECT_EQ(Named<QAbstractButton>("Text1(1)")->text().toStdString(), board.Text1(1).Text);
+        opened = true;
+    };
+    Play({"Command14"});
+    EXPECT_TRUE(drawn && opened);
+    whileOpen = nullptr;
+
+    // Words come to the list at the end of a click, and the newest is in sight.
+    for (int word = 0; word < 60; ++word)
+        board.List1.AddItem("word" + std::to_string(word));
+    auto* words = Named<QListWidget>("List1");
+    EXPECT_EQ(words->count(), 0);
+    Play({"Command6"});
+    ASSERT_EQ(words->count(), 60);
+    EXPECT_TRUE(
+        words->viewport()->rect().contains(words->visualItemRect(words->item(59)).center()));
+}
+
+TEST_F(Window, TakesWhatIsTypedAndCallsNoHandler)
+{
+    Play(start);
+    const std::string line = Line(board);
+    Play({"Text6(2)", "key x", "key Y"});
+    EXPECT_EQ(board.Text6(2).Text + board.Text6(3).Text, "xy");
+    EXPECT_EQ(Focused(), "Text6(4)");
+    // Backspace takes a letter away, then goes back from the empty box.
+    Play({"key Backspace", "key Backspace"});
+    EXPECT_EQ(board.Text6(4).Text, "");
+    EXPECT_EQ(Focused(), "Text6(3)");
+    // A box takes any text.
+    Play({"Text7(2)"});
+    QTest::keyClicks(Named("Text7(2)"), "two words");
+    Named<QLineEdit>("Text7(3)")->insert(QString::fromUtf8("\u00e9"));
+    EXPECT_EQ(board.Text7(2).Text, "two words");
+    EXPECT_EQ(board.Text7(3).Text, "\u00e9");
+    Play({"Text6(6)", "key Right"});
+    EXPECT_EQ(Focused(), "Text7(1)");
+    EXPECT_EQ(Line(board), line);
+    EXPECT_TRUE(messages.empty());
+
+    Play({"Check1"});
+    EXPECT_EQ(board.Check1, 0);
+    Play({"Command9", "Text1(1)"}); // an empty box of the player's row, while laying out
+    EXPECT_FALSE(board.HeldFlag);
+}
+
+TEST_F(Window, IsPlayedByKeyboard)
+{
+    EXPECT_EQ(Focused(), "Option1(1)");
+    Play({"key Down", "key Space", "key Down"});
+    EXPECT_EQ(board.Level, 3);
+    Play({"key Return"});
+    EXPECT_EQ(Focused(), "Text1(1)");
+    std::vector<QString> order;
+    do {
+        order.push_back(Focused());
+        Play({"key Tab"});
+    } while (Focused() != "Text1(1)" && order.size() < 50);
+    ASSERT_EQ(order.size(), 37U); // with 18 boxes to guess in
+    order.erase(order.begin() + 15, order.begin() + 33);
+    EXPECT_EQ(order,
+        (std::vector<QString>{"Text1(1)", "Command4", "Command6", "Command5", "Command16",
+            "Command15", "Command9", "Text2(1)", "SwapLetters(1)", "Command3", "Command13",
+            "Command14", "Word1(1)", "Word2(1)", "Word3(1)", "Command7", "Command10", "Check1",
+            "List1"}));
+
+    board.Text1(2).Text = "p";
+    Play({"key Right", "key Enter"});
+    EXPECT_EQ(board.HeldIndex, 2);
+    EXPECT_EQ(Spoken("Text1(2)"), "Your letter 2, empty, p is in your hand");
+    Play({"key Right", "key Left", "key Left", "key Left", "key Space"});
+    EXPECT_EQ(board.HeldIndex, 0);
+    EXPECT_EQ(Spoken("Text1(1)"), "Your letter 1: p");
+    // Tab comes back to the box that was left, and lost focus goes to where play goes on.
+    Play({"key Tab", "key Shift+Tab"});
+    EXPECT_EQ(Focused(), "Text1(1)");
+    Play({"Command9"});
+    EXPECT_EQ(Focused(), "Text2(1)");
+    answers = {QMessageBox::Yes};
+    Play({"Text6=#1", "Text7=#2", "Text8=#3", "Command7"});
+    EXPECT_EQ(Focused(), "Option1(3)");
+}
+
+TEST_F(Window, SpeaksOfEveryControl)
+{
+    const auto walk = [](const auto& self, QAccessibleInterface* control) -> int {
+        if (control->state().invisible)
+            return 0;
+        int found = 1;
+        EXPECT_FALSE(control->text(QAccessible::Name).isEmpty())
+            << control->object()->objectName().toStdString() << " "
+            << control->object()->metaObject()->className();
+        for (int child = 0; child < control->childCount(); ++child)
+            found += self(self, control->child(child));
+        return found;
+    };
+    EXPECT_GE(walk(walk, QAccessible::queryAccessibleInterface(&window)), 10);
+    Play({"Option1(3)", "Command1", "me=planet you=garden swap=WINDOW"});
+    EXPECT_GE(walk(walk, QAccessible::queryAccessibleInterface(&window)), 90);
+    EXPECT_EQ(Spoken("SwapLetters(1)"), "Swap letter 1, red: w, not available");
+    EXPECT_EQ(Spoken("MyLetters(2)"), "The computer's letter 2: l");
+    EXPECT_EQ(Spoken("Word2(5)"), "Hidden word 2, letter 5, not bought");
+    EXPECT_EQ(Spoken("YourScore"), "Your score: 0");
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setStyle(QStringLiteral("fusion"));
+    const QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
