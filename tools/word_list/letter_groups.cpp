@@ -78,6 +78,7 @@ std::vector<LetterGroup> GroupByLetters(const std::vector<std::string>& words)
         group.words.push_back(word);
     }
     std::vector<LetterGroup> list;
+    list.reserve(groups.size());
     for (auto& [letters, group] : groups)
         list.push_back(std::move(group));
     return list;

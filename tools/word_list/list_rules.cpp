@@ -72,7 +72,7 @@ std::vector<std::string> FindFaults(const std::vector<std::string>& records)
     if (broken > mostNamed)
         faults.push_back("So it is with " + std::to_string(broken - mostNamed) + " more records.");
     if (!HasEnoughFirstLetters(records))
-        faults.push_back("Its records, without the last, have fewer than three first letters.");
+        faults.emplace_back("Its records, without the last, have fewer than three first letters.");
     return faults;
 }
 
