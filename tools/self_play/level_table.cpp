@@ -26,7 +26,7 @@ void PrintTable(std::span<const LevelGames> played, std::span<const LevelMeasure
     std::puts("|--:|--:|--:|--:|--:|--:|--:|--:|--:|");
     for (std::size_t place = 0; place < measures.size(); ++place) {
         const LevelMeasures& level = measures[place];
-        std::string ahead = "";
+        std::string ahead;
         if (place + 1 < measures.size()) {
             const Lead lead = MeasureLead(played[place], played[place + 1]);
             char text[40];

@@ -39,7 +39,8 @@ public:
         , top_(gridStep * std::ceil(highest / gridStep))
     {
         Text(left + 3.2 * step, panelTop - 30, title);
-        for (double value = 0; value <= top_; value += gridStep) {
+        for (int line = 0; line * gridStep <= top_; ++line) {
+            const double value = line * gridStep;
             out_ << "<line class=\"grid\" x1=\"" << left << "\" x2=\"" << left + 6.4 * step
                  << "\" y1=\"" << Height(value) << "\" y2=\"" << Height(value) << "\"/>\n";
             Text(left - 18, Height(value) + 4, value);

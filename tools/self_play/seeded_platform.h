@@ -12,9 +12,9 @@ public:
     // A seed from 0 to 2^24 - 1. The clock begins there and goes on by one at every look, so that
     // each game of a process is another one.
     explicit SeededPlatform(std::uint32_t seed)
-        : clock_(static_cast<float>(seed))
+        : generator_(seed)
+        , clock_(static_cast<float>(seed))
     {
-        SeedRandom(clock_);
     }
 
     float DrawRandom() override

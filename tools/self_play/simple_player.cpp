@@ -66,7 +66,7 @@ std::vector<Move> SimplePlayer::PlanGo(const Board& board) const
 {
     const std::vector<std::string>& used = board.List1.Words();
     for (const std::string& word : vocabulary_) {
-        const std::vector<Move> moves = MovesFor(board, word);
+        std::vector<Move> moves = MovesFor(board, word);
         if (!moves.empty() && std::ranges::find(used, word) == used.end())
             return moves;
     }
