@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
@@ -54,6 +55,14 @@ protected:
         QRadioButton::paintEvent(event);
         if (hasFocus())
             QPainter(this).fillRect(0, height() - 2, width(), 2, palette().color(foregroundRole()));
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        // Some desktops have Enter click an option; here it is for the window, which may start.
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            event->ignore();
+        else
+            QRadioButton::keyPressEvent(event);
     }
 };
 
@@ -293,9 +302,10 @@ QRect PlaceOf(const BuiltControl& control, double pixelsPerTwip)
     const Place at = {row.At.Left + steps * row.Next.Right, row.At.Top + steps * row.Next.Down,
         row.At.Width, row.At.Height};
     const auto pixels = [=](int twips) { return qRound(twips * pixelsPerTwip); };
-    // Edges are rounded and not sizes, so that joined boxes stay joined at every scale.
+    // First and last pixels are rounded and not sizes: boxes that share a line, 15 twips wide,
+    // share its pixel at every scale.
     return QRect(QPoint(pixels(at.Left), pixels(at.Top)),
-        QPoint(pixels(at.Left + at.Width) - 1, pixels(at.Top + at.Height) - 1));
+        QPoint(pixels(at.Left + at.Width - 15), pixels(at.Top + at.Height - 15)));
 }
 
 } // namespace

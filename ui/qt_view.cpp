@@ -2,6 +2,8 @@
 
 #include "ui/main_window.h"
 
+#include <QAbstractButton>
+#include <QGridLayout>
 #include <QMessageBox>
 
 #include <cstdlib>
@@ -17,6 +19,12 @@ QMessageBox::StandardButton Ask(MainWindow& window, const std::string& text,
         QMessageBox::NoIcon, QString::fromUtf8(title), QString::fromUtf8(text), buttons, &window);
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
+    for (QAbstractButton* button : box.buttons())
+        button->setIcon(QIcon());
+    // Wide enough for the title to be read, beside the buttons that window managers add.
+    auto* layout = qobject_cast<QGridLayout*>(box.layout());
+    const int wide = box.fontMetrics().horizontalAdvance(box.windowTitle()) + 160;
+    layout->addItem(new QSpacerItem(wide, 0), layout->rowCount(), 0, 1, layout->columnCount());
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

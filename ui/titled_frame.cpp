@@ -1,6 +1,16 @@
 #include "ui/titled_frame.h"
 
+#include <QEvent>
 #include <QPainter>
+
+bool TitledFrame::event(QEvent* event)
+{
+    // A group box takes the keys that would press its check mark; this one has none, and the keys
+    // are for the window.
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
+        return QWidget::event(event);
+    return QGroupBox::event(event);
+}
 
 void TitledFrame::paintEvent(QPaintEvent* /*event*/)
 {
