@@ -16,6 +16,7 @@ file(WRITE ${doc}/changelog.Debian "quorvel2 (${debian_version}) unstable; urgen
  -- ${CPACK_PACKAGE_CONTACT}  ${date}\n")
 file(COPY_FILE ${CMAKE_CURRENT_LIST_DIR}/../CHANGELOG.md ${doc}/changelog)
 
-execute_process(
-  COMMAND gzip -9n ${doc}/changelog ${doc}/changelog.Debian ${share}/man/man6/quorvel2.6
-  COMMAND_ERROR_IS_FATAL ANY)
+set(papers ${doc}/changelog ${doc}/changelog.Debian ${share}/man/man6/quorvel2.6)
+file(CHMOD ${papers} ${doc}/copyright
+  PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+execute_process(COMMAND gzip -9n ${papers} COMMAND_ERROR_IS_FATAL ANY)
