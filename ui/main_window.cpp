@@ -170,17 +170,16 @@ void MainWindow::ConnectClicks()
 void MainWindow::ConnectTyping()
 {
     Board& board = game_.board;
-    for (const BuiltControl& control : controls_) {
-        if (control.Row->Is == Kind::Check)
-            connect(static_cast<QCheckBox*>(control.Widget), &QCheckBox::clicked, this,
-                [&board](bool ticked) { WriteTick(board, ticked); });
-        if (control.Row->Is != Kind::GuessBox)
-            continue;
-        for (const RowField& field : rowFields)
-            if (std::string_view(field.control) == control.Row->Name)
-                connect(static_cast<GuessBox*>(control.Widget), &QLineEdit::textEdited, this,
-                    [&box = (board.*field.row)(control.Number)](
+    connect(static_cast<QCheckBox*>(Find("Check1")), &QCheckBox::clicked, this,
+        [&board](bool ticked) { WriteTick(board, ticked); });
+    for (const RowField& field : rowFields) {
+        for (int number = 1; number <= 6; ++number) {
+            auto* guess = qobject_cast<QLineEdit*>(Find(field.control, number));
+            if (guess != nullptr)
+                connect(guess, &QLineEdit::textEdited, this,
+                    [&box = (board.*field.row)(number)](
                         const QString& typed) { WriteGuess(box, typed); });
+        }
     }
 }
 

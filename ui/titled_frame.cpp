@@ -7,8 +7,10 @@ bool TitledFrame::event(QEvent* event)
 {
     // A group box takes the keys that would press its check mark; this one has none, and the keys
     // are for the window.
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
-        return QWidget::event(event);
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
+        event->ignore();
+        return false;
+    }
     return QGroupBox::event(event);
 }
 
