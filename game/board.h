@@ -59,14 +59,6 @@ private:
     std::vector<std::string> words_;
 };
 
-// Up to six letters on their way through SortLetters.
-struct SortLettersBuffer {
-    std::array<unsigned char, 6> Letters{}; // 0 where the word has fewer
-    int Count = 0;
-
-    bool operator==(const SortLettersBuffer&) const = default;
-};
-
 struct Board {
     // The three rows that the 18 letters are dealt to.
     LetterRow MyLetters;   // the computer's
@@ -110,7 +102,7 @@ struct Board {
 
     // The computer: 0 while no level is chosen, else 1 (strongest) to 6; and its search.
     std::int16_t Level = 0;
-    SortLettersBuffer SortBuffer;
+    std::array<unsigned char, 6> SortBuffer{}; // letters on their way through SortLetters
     bool ComputerScored = false;     // the swap last tried made a word
     std::int16_t FruitlessSwaps = 0; // 0 to 4
 

@@ -10,24 +10,34 @@
 #include "game/start_of_game.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <cmath>
 #include <string_view>
-#include <utility>
 
 namespace {
 
-// Six letters are in order after these twelve exchanges, whatever order they came in. No branch
-// depends on a letter, and a go of the computer sorts up to 72,000 words.
-constexpr std::pair<std::size_t, std::size_t> sortingNetwork[] = {
-    {0, 5}, {1, 3}, {2, 4}, {1, 2}, {3, 4}, {0, 3}, {2, 5}, {0, 1}, {2, 3}, {4, 5}, {1, 2}, {3, 4}};
-
+// Behind the last letter of a short word stands 0.
 void FillSortBuffer(Board& board, std::string_view word)
 {
-    board.SortBuffer = {};
-    const std::size_t count = std::min(word.size(), board.SortBuffer.Letters.size());
-    std::copy_n(word.begin(), count, board.SortBuffer.Letters.begin());
-    board.SortBuffer.Count = static_cast<int>(count);
+    board.SortBuffer.fill(0);
+    std::copy_n(
+        word.begin(), std::min(word.size(), board.SortBuffer.size()), board.SortBuffer.begin());
+}
+
+// No branch depends on the letters: a go of the computer sorts up to 72,000 words.
+void PutInOrder(unsigned char& left, unsigned char& right)
+{
+    const unsigned char less = std::min(left, right);
+    right = std::max(left, right);
+    left = less;
+}
+
+// One by one, since most words differ in the first. To compare all six at once is slower: it would
+// wait for the sort to store the last of them.
+bool HasSorted(const Board& board, const std::array<unsigned char, 6>& sorted)
+{
+    return std::ranges::mismatch(board.SortBuffer, sorted).in2 == sorted.end();
 }
 
 // The number of candidates that the level lets the computer look at. Halves go to the even number,
@@ -61,13 +71,13 @@ void SearchForWord(Game& game)
     Board& board = game.board;
     FillSortBuffer(board, Spell(board.MyLetters));
     SortLetters(board);
-    const SortLettersBuffer sortedRow = board.SortBuffer;
+    const auto sortedRow = board.SortBuffer;
     const int span = SearchSpan(board);
     for (int k = 1; k <= span; ++k) {
         const std::string& candidate = board.Candidates(k);
         FillSortBuffer(board, candidate);
         SortLetters(board);
-        if (board.SortBuffer != sortedRow)
+        if (!HasSorted(board, sortedRow))
             continue;
         board.ProbeWord = candidate;
         CheckWordUsed(board);
@@ -81,11 +91,19 @@ void SearchForWord(Game& game)
 
 void SortLetters(Board& board)
 {
-    auto& letters = board.SortBuffer.Letters;
-    for (const auto& [left, right] : sortingNetwork) {
-        const auto [less, greater] = std::pair(
-            std::min(letters[left], letters[right]), std::max(letters[left], letters[right]));
-        letters[left] = less;
-        letters[right] = greater;
-    }
+    // Six letters are in order after these twelve steps, whatever order they came in.
+    auto [a, b, c, d, e, f] = board.SortBuffer;
+    PutInOrder(a, f);
+    PutInOrder(b, d);
+    PutInOrder(c, e);
+    PutInOrder(b, c);
+    PutInOrder(d, e);
+    PutInOrder(a, d);
+    PutInOrder(c, f);
+    PutInOrder(a, b);
+    PutInOrder(c, d);
+    PutInOrder(e, f);
+    PutInOrder(b, c);
+    PutInOrder(d, e);
+    board.SortBuffer = {a, b, c, d, e, f};
 }

@@ -1,21 +1,25 @@
 #include "lexicon/lexicon_file.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <utility>
 
 namespace {
 
 constexpr std::size_t firstBufferSize = 65536; // a list of 9000 six-letter words at one read
-constexpr char sentinel = '\n';
+constexpr char sentinel = ','; // ends a field, and makes no line end with a CR in front of it
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-constexpr auto endsField = [] {
-    std::array<bool, 256> table{};
-    table[','] = table['\n'] = table['\r'] = true;
-    return table;
-}();
+bool EndsField(char letter)
+{
+    return letter == ',' || letter == '\n' || letter == '\r';
+}
+
+// CR and LF together are one line end.
+const char* BehindSeparator(const char* separator)
+{
+    return separator + (separator[0] == '\r' && separator[1] == '\n' ? 2 : 1);
+}
 
 } // namespace
 
@@ -35,30 +39,25 @@ void LexiconFile::Open()
     std::setvbuf(file_.get(), nullptr, _IONBF, 0); // the buffer below is the only one
     if (buffer_.empty())
         buffer_.resize(firstBufferSize);
-    kept_ = next_ = filled_ = 0;
-    while (filled_ < byteOrderMark.size() && Refill()) { }
-    if (std::string_view(buffer_.data(), filled_).starts_with(byteOrderMark))
+    next_ = whole_ = filled_ = 0;
+    if (ReadOn() && std::string_view(buffer_.data(), whole_).starts_with(byteOrderMark))
         next_ = byteOrderMark.size();
-}
-
-bool LexiconFile::AtEnd()
-{
-    kept_ = next_;
-    return next_ == filled_ && !Refill();
 }
 
 std::string_view LexiconFile::ReadRecord()
 {
     if (AtEnd())
         throw LexiconError("read past the end of the word list");
-    SkipBlanks();
-    if (next_ != filled_ && buffer_[next_] == '"')
-        return ReadQuoted();
-    const std::size_t end = FindFieldEnd(next_);
-    const std::size_t length = end - kept_;
-    next_ = end;
-    ConsumeSeparator();
-    return {buffer_.data() + kept_, length};
+    const char* begin = buffer_.data() + next_;
+    while (*begin == ' ')
+        ++begin;
+    if (*begin == '"')
+        return ReadQuoted(begin + 1);
+    const char* end = begin;
+    while (!EndsField(*end))
+        ++end;
+    next_ = static_cast<std::size_t>(BehindSeparator(end) - buffer_.data());
+    return {begin, end};
 }
 
 void LexiconFile::Close()
@@ -66,84 +65,48 @@ void LexiconFile::Close()
     file_.reset();
 }
 
-// Reads on behind the bytes that are still needed, which move to the front of the buffer; the
-// buffer grows only for a record longer than itself. False at the end of the file.
-bool LexiconFile::Refill()
+// Reads on until more whole lines, or the rest of the file, stand behind next_; what is before it
+// goes. False when the file has no more. The buffer grows only for a line longer than itself.
+bool LexiconFile::ReadOn()
 {
     if (!file_)
         throw LexiconError("the word list is not open");
-    std::memmove(buffer_.data(), buffer_.data() + kept_, filled_ - kept_);
-    next_ -= kept_;
-    filled_ -= kept_;
-    kept_ = 0;
-    if (filled_ + 1 == buffer_.size())
-        buffer_.resize(2 * buffer_.size());
-    const std::size_t room = buffer_.size() - filled_ - 1;
-    const std::size_t got = std::fread(buffer_.data() + filled_, 1, room, file_.get());
-    if (got == 0 && std::ferror(file_.get()) != 0)
-        throw LexiconError("cannot read the word list " + path_.string());
-    filled_ += got;
-    buffer_[filled_] = sentinel;
-    return got != 0;
-}
-
-// The place of the first byte from `at` on that ends a field, or of the end of the file. A refill
-// moves the record to the front of the buffer, and the place with it.
-std::size_t LexiconFile::FindFieldEnd(std::size_t at)
-{
-    for (;;) {
-        while (!endsField[static_cast<unsigned char>(buffer_[at])])
-            ++at;
-        if (at != filled_)
-            return at;
-        const std::size_t length = at - kept_;
-        const bool more = Refill();
-        at = kept_ + length;
-        if (!more)
-            return at;
-    }
-}
-
-void LexiconFile::SkipBlanks()
-{
+    next_ = std::min(next_, filled_); // it has gone behind the sentinel with the last record
+    std::memmove(buffer_.data(), buffer_.data() + next_, filled_ - next_);
+    const std::size_t wholeBefore = whole_ - next_;
+    filled_ -= next_;
+    next_ = 0;
+    std::size_t got = 0;
     do {
-        while (next_ != filled_ && buffer_[next_] == ' ')
-            ++next_;
-        kept_ = next_;
-    } while (next_ == filled_ && Refill());
+        if (filled_ + 1 == buffer_.size())
+            buffer_.resize(2 * buffer_.size());
+        const std::size_t room = buffer_.size() - filled_ - 1;
+        got = std::fread(buffer_.data() + filled_, 1, room, file_.get());
+        if (got == 0 && std::ferror(file_.get()) != 0)
+            throw LexiconError("cannot read the word list " + path_.string());
+        filled_ += got;
+        whole_ = std::string_view(buffer_.data(), filled_).rfind('\n') + 1;
+    } while (got != 0 && whole_ <= wholeBefore);
+    if (got == 0)
+        whole_ = filled_; // the last line needs no end
+    buffer_[filled_] = sentinel;
+    return whole_ != wholeBefore;
 }
 
-// One comma or line end, if one stands here; CR and LF together are one line end.
-void LexiconFile::ConsumeSeparator()
+// `begin` is behind the opening mark.
+std::string_view LexiconFile::ReadQuoted(const char* begin)
 {
-    if (next_ == filled_ && !Refill())
-        return;
-    const char first = buffer_[next_];
-    if (!endsField[static_cast<unsigned char>(first)])
-        return;
-    ++next_;
-    if (first == '\r' && (next_ != filled_ || Refill()) && buffer_[next_] == '\n')
-        ++next_;
-}
-
-std::string_view LexiconFile::ReadQuoted()
-{
-    kept_ = ++next_;
-    std::size_t length = 0;
-    for (;;) {
-        const char* begin = buffer_.data() + kept_;
-        const char* end = buffer_.data() + filled_;
-        const char* mark = std::find(begin + length, end, '"');
-        length = static_cast<std::size_t>(mark - begin);
-        next_ = kept_ + length;
-        if (mark != end)
-            break;
-        if (!Refill())
-            return {buffer_.data() + kept_, length};
-    }
-    ++next_;
-    while ((next_ != filled_ || Refill()) && buffer_[next_] == ' ')
-        ++next_;
-    ConsumeSeparator();
-    return {buffer_.data() + kept_, length};
+    next_ = static_cast<std::size_t>(begin - buffer_.data());
+    const auto rest = [this] { return std::string_view(buffer_.data() + next_, whole_ - next_); };
+    while (rest().find('"') == std::string_view::npos && ReadOn()) { }
+    const std::string_view record = rest().substr(0, rest().find('"'));
+    const char* behind = record.data() + record.size();
+    if (record.size() != rest().size())
+        ++behind;
+    while (*behind == ' ')
+        ++behind;
+    if (EndsField(*behind))
+        behind = BehindSeparator(behind);
+    next_ = static_cast<std::size_t>(behind - buffer_.data());
+    return record;
 }

@@ -29,7 +29,7 @@ public:
     void Open();
 
     // True when no byte is left. Throws LexiconError when the file cannot be read.
-    bool AtEnd();
+    bool AtEnd() { return next_ >= whole_ && !ReadOn(); }
 
     // The next record, in place until the next call. Throws LexiconError past the end of the file
     // or when it cannot be read.
@@ -42,19 +42,16 @@ private:
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
 
-    bool Refill();
-    std::size_t FindFieldEnd(std::size_t at);
-    void SkipBlanks();
-    void ConsumeSeparator();
-    std::string_view ReadQuoted();
+    bool ReadOn();
+    std::string_view ReadQuoted(const char* begin);
 
     std::filesystem::path path_;
     std::unique_ptr<std::FILE, Closer> file_;
 
-    // The one buffer. Bytes from kept_ on are still needed; behind filled_ stands a line end, so
-    // that the scan for the end of a field needs no bound.
+    // The one buffer. It is searched no further than the last line end in it, or the end of the
+    // file, where a sentinel stands: a record needs no bound, for it always ends before.
     std::vector<char> buffer_;
-    std::size_t kept_ = 0;
     std::size_t next_ = 0;
+    std::size_t whole_ = 0;
     std::size_t filled_ = 0;
 };
