@@ -317,14 +317,19 @@ TEST_F(Window, DrawsAtItsMomentsAlone)
     EXPECT_TRUE(yourGoOnScreen());
 
     // The label has gone before the slow work starts, and a click that was waiting has run by then.
-    const std::string before = Spoken("SwapLetters(2)");
-    bool drawn = false;
-    QTimer::singleShot(0, &window, [this] { Click("Command15"); });
-    platform.onDraw = [&] {
-        drawn = true;
-        EXPECT_FALSE(yourGoOnScreen());
-        EXPECT_NE(Spoken("SwapLetters(2)"), before);
-    };
+    for (const bool waiting : {false, true}) {
+        const std::string before = Spoken("SwapLetters(2)");
+        bool drawn = false;
+        if (waiting)
+            QTimer::singleShot(0, &window, [this] { Click("Command15"); });
+        platform.onDraw = [&] {
+            drawn = true;
+            EXPECT_FALSE(yourGoOnScreen());
+            EXPECT_EQ(Spoken("SwapLetters(2)") != before, waiting);
+        };
+        Play("Command14");
+        EXPECT_TRUE(drawn);
+    }
     // While a message is open the board shows as it is at that moment, and nothing answers.
     bool opened = false;
     whileOpen = [&] {
@@ -339,7 +344,7 @@ TEST_F(Window, DrawsAtItsMomentsAlone)
         opened = true;
     };
     Play("Command14");
-    EXPECT_TRUE(drawn && opened);
+    EXPECT_TRUE(opened);
     whileOpen = nullptr;
 
     // Words come to the list at the end of a click, and the newest is in sight.
@@ -407,7 +412,9 @@ TEST_F(Window, IsPlayedByKeyboard)
     EXPECT_EQ(board.HeldIndex, 0);
     EXPECT_EQ(Spoken("Text1(1)"), "Your letter 1: p");
     // Tab comes back to the box that was left, and lost focus goes to where play goes on.
-    Play("key Tab; key Shift+Tab");
+    Play("key Tab");
+    EXPECT_EQ(Focused(), "Command4");
+    Play("key Shift+Tab");
     EXPECT_EQ(Focused(), "Text1(1)");
     Play("Command9");
     EXPECT_EQ(Focused(), "Text2(1)");
