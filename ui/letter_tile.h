@@ -17,8 +17,6 @@ public:
     // The letter in the box; and where the box is empty, a letter that is shown faintly in it.
     void SetLetter(const QString& letter, const QString& faint);
 
-    const QString& Faint() const { return faint_; }
-
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -6,10 +6,9 @@
 
 #include <QWidget>
 
+#include <string>
 #include <vector>
 
-struct Board;
-struct Frame;
 struct Game;
 struct LetterBox;
 
