@@ -1,0 +1,152 @@
+#include "bench/plain_rules.h"
+
+#include "game/board.h"
+#include "game/game.h"
+#include "game/platform.h"
+#include "game/rows.h"
+#include "game/start_of_game.h"
+
+#include <cmath>
+#include <fstream>
+#include <utility>
+
+namespace plain {
+
+namespace {
+
+void SortLetters(std::string& letters)
+{
+    bool exchanged = true;
+    while (exchanged) {
+        exchanged = false;
+        for (std::size_t k = 0; k + 1 < letters.size(); ++k) {
+            if (letters[k] > letters[k + 1]) {
+                std::swap(letters[k], letters[k + 1]);
+                exchanged = true;
+            }
+        }
+    }
+}
+
+bool IsUsed(const Board& board, const std::string& word)
+{
+    bool used = false;
+    for (int slot = 0; slot <= board.UsedCount; ++slot) {
+        if (board.UsedWords(slot) == word)
+            used = true;
+    }
+    return used;
+}
+
+std::string SearchForWord(const Board& board)
+{
+    std::string row = Spell(board.MyLetters);
+    SortLetters(row);
+    const int divisor = board.Level > 1 ? board.Level * 2 : 1;
+    const auto span = std::lrint(static_cast<double>(board.CandidateCount) / divisor);
+    for (int k = 1; k <= span; ++k) {
+        std::string sorted = board.Candidates(k);
+        SortLetters(sorted);
+        const bool used = IsUsed(board, board.Candidates(k));
+        if (sorted == row && !used)
+            return board.Candidates(k);
+    }
+    return "";
+}
+
+} // namespace
+
+std::int16_t CountWords(const std::filesystem::path& list, std::string& currentWord)
+{
+    std::ifstream file(list);
+    std::int16_t count = 0;
+    for (std::string word; std::getline(file, word);) {
+        currentWord = word;
+        ++count;
+    }
+    return count;
+}
+
+void PickRandomWord(
+    const std::filesystem::path& list, std::int16_t wordCount, float draw, std::string& currentWord)
+{
+    const int position = static_cast<int>(static_cast<double>(draw) * wordCount);
+    std::ifstream file(list);
+    for (int read = 0; read < position; ++read)
+        std::getline(file, currentWord);
+}
+
+void CollectCandidates(const std::filesystem::path& list, std::int16_t wordCount,
+    const std::string& pool, std::vector<std::string>& candidates)
+{
+    std::ifstream file(list);
+    for (int read = 0; read < wordCount; ++read) {
+        std::string letters = pool;
+        std::string word;
+        std::getline(file, word);
+        int matches = 0;
+        for (std::size_t k = 0; k < 6 && k < word.size(); ++k) {
+            bool found = false;
+            for (std::size_t j = 0; j < letters.size(); ++j) {
+                if (!found && letters[j] == word[k]) {
+                    letters = letters.substr(0, j) + "*" + letters.substr(j + 1);
+                    ++matches;
+                    found = true;
+                }
+            }
+        }
+        if (matches == 6)
+            candidates.push_back(word);
+    }
+}
+
+bool FindWord(const std::filesystem::path& list, const std::string& word)
+{
+    std::ifstream file(list);
+    for (std::string record; std::getline(file, record);) {
+        if (record == word)
+            return true;
+    }
+    return false;
+}
+
+void StartGame(Game& game, std::vector<std::string>& candidates)
+{
+    Board& board = game.board;
+    game.platform.SeedRandom(game.platform.ClockSeconds());
+    board.WordCount = CountWords(game.lexicon, board.CurrentWord);
+    bool firstLettersDiffer = false;
+    while (!firstLettersDiffer) {
+        for (int slot = 1; slot <= 3; ++slot) {
+            PickRandomWord(
+                game.lexicon, board.WordCount, game.platform.DrawRandom(), board.CurrentWord);
+            board.HiddenWords(slot) = board.CurrentWord;
+        }
+        const char a = board.HiddenWords(1)[0];
+        const char b = board.HiddenWords(2)[0];
+        const char c = board.HiddenWords(3)[0];
+        firstLettersDiffer = a != b && a != c && b != c;
+    }
+    DealLetters(game);
+    const std::string pool = board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3);
+    candidates.clear();
+    do
+        CollectCandidates(game.lexicon, board.WordCount, pool, candidates);
+    while (candidates.size() < 300);
+}
+
+std::string SearchAllExchanges(Board& board)
+{
+    for (int i = 1; i <= 6; ++i) {
+        for (int j = 1; j <= 6; ++j) {
+            std::swap(board.MyLetters(i).Text, board.SwapLetters(j).Text);
+            const std::string word = SearchForWord(board);
+            std::swap(board.MyLetters(i).Text, board.SwapLetters(j).Text);
+            if (!word.empty())
+                return word;
+        }
+    }
+    return "";
+}
+
+} // namespace plain
