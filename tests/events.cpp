@@ -40,9 +40,8 @@ bool InLedger(const Board& board, const std::string& word, int slots)
 
 } // namespace
 
-EventPlayer::EventPlayer(std::filesystem::path lexicon, std::uint32_t seed)
-    : platform_(seed)
-    , game_{board, view_, platform_, std::move(lexicon)}
+EventPlayer::EventPlayer(std::filesystem::path lexicon, Platform& platform)
+    : game_{board, view_, platform, std::move(lexicon)}
 {
     view_.during = [this](const std::string& call) { ShowCall(call); };
     StartProgram();

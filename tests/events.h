@@ -13,14 +13,14 @@
 
 #include "game/board.h"
 #include "game/game.h"
+#include "game/platform.h"
 #include "scripted_view.h"
-#include "tools/self_play/seeded_platform.h"
 
 #include <map>
 
 class EventPlayer {
 public:
-    EventPlayer(std::filesystem::path lexicon, std::uint32_t seed);
+    EventPlayer(std::filesystem::path lexicon, Platform& platform);
 
     // Plays on from where the last script ended. When the program ends it is started again.
     // Returns the first fault, "" when there is none, and plays nothing behind a fault.
@@ -40,7 +40,6 @@ private:
     void Require(bool holds, const std::string& rule);
     void Check();
 
-    SeededPlatform platform_;
     ScriptedView view_;
     Game game_;
     std::string failure_;

@@ -2,6 +2,7 @@
 // own.
 #pragma once
 
+#include "board_text.h"
 #include "game/board.h"
 #include "game/game.h"
 #include "scripted_platform.h"
@@ -60,13 +61,3 @@ protected:
         }
     }
 };
-
-// A board as one line, as in "you=planet me=garden swap=simple you:120 me:50". A dot is an empty
-// box, a row in capitals is disabled as a whole, and what is not named in the line stays.
-std::string Line(const Board& board);
-void SetBoard(Board& board, const std::string& line);
-void SetRow(LetterRow& row, const std::string& letters);
-
-// All that always holds between two handlers of a started game; the failure text says what does
-// not.
-testing::AssertionResult BoardIsOk(const Board& board);

@@ -1,0 +1,171 @@
+// Word lists that nobody would write, and lists that change while they are read: a game that keeps
+// its rules, or the one message and the end, and neither of them late.
+
+#include "events.h"
+#include "lexicon/lexicon_file.h"
+#include "test_game.h"
+#include "tools/self_play/seeded_platform.h"
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <sys/stat.h>
+
+namespace {
+
+const std::string words = "planet\ngarden\nsimple\nnested\nsimple\n";
+
+// Chance that lets something happen to the list at one of its draws: one stands before each pick of
+// a hidden word, the eighteen of the deal between the last pick and the collecting of candidates.
+class EventfulPlatform : public SeededPlatform {
+public:
+    using SeededPlatform::SeededPlatform;
+    float DrawRandom() override
+    {
+        if (--drawsLeft == 0)
+            happening();
+        return SeededPlatform::DrawRandom();
+    }
+    int drawsLeft = 0;
+    std::function<void()> happening;
+};
+
+// Starts a game and plays a few goes; false when the message came instead.
+bool Starts(const std::filesystem::path& path, EventfulPlatform platform = EventfulPlatform(1))
+{
+    const auto begin = std::chrono::steady_clock::now();
+    EventPlayer player(path, platform);
+    EXPECT_EQ(player.Play("Option1:1 Command1"), "");
+    const bool started = player.board.Frame4.Visible;
+    EXPECT_EQ(player.counts["Quorvel2: The file Lexicon.txt must be in the C"], !started);
+    EXPECT_EQ(player.Play("word:1 Command13 Command14"), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+    return started;
+}
+
+std::string WordsOfOneToThousandLetters()
+{
+    std::string bytes;
+    for (std::size_t length = 1; length <= 1000; ++length)
+        bytes += std::string(length, static_cast<char>('a' + length % 26)) + "\n";
+    return bytes;
+}
+
+std::string Utf16(const std::string& text)
+{
+    std::string bytes = "\xFF\xFE";
+    for (const char letter : text)
+        bytes += {letter, '\0'};
+    return bytes;
+}
+
+std::string Binary()
+{
+    std::string bytes;
+    for (unsigned i = 0, value = 1; i < 100'000; ++i, value = value * 1664525 + 1013904223)
+        bytes += static_cast<char>(value >> 24);
+    return bytes;
+}
+
+TEST(HostileLists, StartAGameOrEndInTheMessage)
+{
+    struct Row {
+        const char* list;
+        std::string bytes;
+        bool starts;
+    };
+    const Row rows[] = {
+        {"one word", "planet\n", false},
+        {"binary", Binary(), false},
+        {"ten million letters in one line", std::string(10'000'000, 'x'), false},
+        {"ten million letters, then words", std::string(10'000'000, 'x') + "\n" + words, false},
+        {"only commas", std::string(20'000, ','), false},
+        {"a quotation never closed", "\"" + words, false},
+        {"one that opens behind the words", words + "\"" + words, false},
+        {"words of 1 to 1000 letters", WordsOfOneToThousandLetters(), false},
+        {"UTF-16", Utf16(words), false},
+        {"UTF-8, six letters in seven bytes", "plan\xC3\xA8t\n\xC3\xA9tages\nv\xC3\xAAture\n",
+            false},
+        {"UTF-8, six bytes", "pl\xC3\xA8ts\n\xC3\xA9tag\n\xC3\xAAgal\nvois\xC3\xA9\nvois\xC3\xA9",
+            true},
+        {"no line end, commas and blanks", "planet,  garden,simple,nested, simple", true},
+        {"capitals and small letters", "PLANET\nplanet\nGarden\nSIMPLE\nplanet", true},
+        {"zeros for letters",
+            std::string("a\0\0\0\0\0\nb\0\0\0\0\0\nc\0\0\0\0\0\nd\0\0\0\0\0\n", 28), true},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(Starts(WordListFile(row.bytes).Path()), row.starts) << row.list;
+}
+
+// What can stand in the place of the list of a sudden.
+struct Change {
+    const char* name;
+    void (*make)(const WordListFile& list);
+    std::optional<bool> starts; // nothing when that depends on the draws
+};
+
+const Change changes[] = {
+    {"nothing", [](const WordListFile& list) { std::filesystem::remove(list.Path()); }, false},
+    {"fewer words", [](const WordListFile& list) { list.Write("planet\n"); }, false},
+    {"other words",
+        [](const WordListFile& list) { list.Write("aaaaaa\nbbbbbb\ncccccc\naaaaaa\naaaaaa"); }, {}},
+    {"more words", [](const WordListFile& list) { list.Write(words + words); }, true},
+    {"a hundred thousand million bytes",
+        [](const WordListFile& list) {
+            std::filesystem::resize_file(list.Path(), 100'000'000'000);
+        },
+        false},
+    {"a folder",
+        [](const WordListFile& list) {
+            std::filesystem::remove(list.Path());
+            std::filesystem::create_directory(list.Path());
+        },
+        false},
+    {"a named pipe",
+        [](const WordListFile& list) {
+            std::filesystem::remove(list.Path());
+            EXPECT_EQ(mkfifo(list.Path().c_str(), 0600), 0);
+        },
+        false},
+    {"a file that may not be read",
+        [](const WordListFile& list) { std::filesystem::permissions(list.Path(), {}); },
+        {}}, // root may
+};
+
+TEST(HostileLists, ChangeBeforeTheStartOrBetweenItsPasses)
+{
+    for (const Change& change : changes) {
+        SCOPED_TRACE(change.name);
+        for (int draw = 0; draw <= 21; ++draw) {
+            const WordListFile list(words);
+            EventfulPlatform platform(1);
+            platform.drawsLeft = draw;
+            platform.happening = [&] { change.make(list); };
+            if (draw == 0)
+                change.make(list);
+            const bool started = Starts(list.Path(), platform);
+            EXPECT_EQ(started, change.starts.value_or(started)) << "draw " << draw;
+        }
+    }
+}
+
+// The reader holds the first of the list when the rest of it goes.
+TEST(HostileLists, CutShortInTheMiddleOfAPass)
+{
+    std::string bytes;
+    for (int i = 0; i < 5000; ++i)
+        bytes += words;
+    const WordListFile list(bytes);
+    LexiconFile lexicon(list.Path());
+    lexicon.Open();
+    EXPECT_EQ(lexicon.ReadRecord(), "planet");
+    list.Write("");
+    int records = 1;
+    for (; !lexicon.AtEnd(); ++records)
+        lexicon.ReadRecord();
+    EXPECT_LT(records, 25'000);
+    EXPECT_THROW(lexicon.ReadRecord(), LexiconError);
+}
+
+} // namespace
