@@ -38,8 +38,10 @@ if(NOT "$CACHE{CMAKE_INSTALL_DOCDIR}")
   set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/quorvel2)
 endif()
 
-install(TARGETS quorvel2 RUNTIME BUNDLE DESTINATION .)
-install(FILES data/Lexicon.txt DESTINATION ${word_list_folder})
+install(TARGETS quorvel2 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DESTINATION .)
+if(NOT APPLE) # where the list stands in the bundle
+  install(FILES data/Lexicon.txt DESTINATION ${word_list_folder})
+endif()
 install(FILES LICENSE data/Lexicon.txt.license DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # Windows looks for the icon in the program, macOS for everything in the bundle.
