@@ -38,12 +38,6 @@ if(NOT "$CACHE{CMAKE_INSTALL_DOCDIR}")
   set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/quorvel2)
 endif()
 
-install(TARGETS quorvel2 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DESTINATION .)
-if(NOT APPLE) # where the list stands in the bundle
-  install(FILES data/Lexicon.txt DESTINATION ${word_list_folder})
-endif()
-install(FILES LICENSE data/Lexicon.txt.license DESTINATION ${CMAKE_INSTALL_DOCDIR})
-
 # Windows looks for the icon in the program, macOS for everything in the bundle.
 set_target_properties(quorvel2 PROPERTIES
   WIN32_EXECUTABLE ON
@@ -51,6 +45,13 @@ set_target_properties(quorvel2 PROPERTIES
   MACOSX_BUNDLE_GUI_IDENTIFIER org.example.quorvel2
   MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION}
   MACOSX_BUNDLE_ICON_FILE quorvel2.icns)
+
+install(TARGETS quorvel2 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DESTINATION .)
+if(NOT APPLE) # where the list stands in the bundle
+  install(FILES data/Lexicon.txt DESTINATION ${word_list_folder})
+endif()
+install(FILES LICENSE data/Lexicon.txt.license DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
 if(WIN32)
   enable_language(RC)
   target_sources(quorvel2 PRIVATE ${PROJECT_SOURCE_DIR}/packaging/quorvel2.rc)
