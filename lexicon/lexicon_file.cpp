@@ -1,12 +1,17 @@
 #include "lexicon/lexicon_file.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <utility>
 
 namespace {
 
 constexpr std::size_t firstBufferSize = 65536; // a list of 9000 six-letter words at one read
+// A dozen times what 32767 records of six letters take. A damaged disk can show a file of any size,
+// and the longest record of one has to fit in memory.
+constexpr std::uintmax_t largestFile = 4'000'000;
+
 constexpr char sentinel = ','; // ends a field, and makes no line end with a CR in front of it
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
@@ -33,6 +38,8 @@ void LexiconFile::Open()
     std::error_code error;
     if (!std::filesystem::is_regular_file(path_, error))
         throw LexiconError("no such word list: " + path_.string());
+    if (std::filesystem::file_size(path_, error) > largestFile)
+        throw LexiconError("too large for a word list: " + path_.string());
     file_.reset(std::fopen(path_.string().c_str(), "rb"));
     if (!file_)
         throw LexiconError("cannot open the word list " + path_.string());

@@ -25,7 +25,8 @@ public:
     explicit LexiconFile(std::filesystem::path path);
 
     // Opens the file at its first record. Throws LexiconError when it is missing, is no regular
-    // file (a pipe or a device could keep the game waiting) or cannot be opened or read.
+    // file (a pipe or a device could keep the game waiting), is larger than four million bytes or
+    // cannot be opened or read.
     void Open();
 
     // True when no byte is left. Throws LexiconError when the file cannot be read.
