@@ -5,50 +5,15 @@
 #include "game/scoring.h"
 
 #include <algorithm>
-#include <span>
+#include <functional>
 #include <sstream>
 
 namespace {
 
-std::string Blanks(std::string text, char from, char to)
+std::string Replaced(std::string text, char from, char to)
 {
     std::ranges::replace(text, from, to);
     return text;
-}
-
-std::string BoxText(const LetterBox& box)
-{
-    if (box.Text.empty())
-        return box.Enabled ? "." : "-";
-    const auto letter = static_cast<unsigned char>(box.Text[0]);
-    if (box.Text.size() != 1 || std::islower(letter) == 0)
-        return "(" + Blanks(box.Text, ' ', '_') + ")";
-    return {box.Enabled ? box.Text[0] : static_cast<char>(std::toupper(letter))};
-}
-
-std::string RowText(const LetterRow& row)
-{
-    std::string text;
-    for (const LetterBox& box : row)
-        text += BoxText(box);
-    return text;
-}
-
-void SetRow(LetterRow& row, const std::string& text)
-{
-    std::size_t at = 0;
-    for (LetterBox& box : row) {
-        const char mark = text.at(at++);
-        box.Enabled = mark != '-' && std::isupper(static_cast<unsigned char>(mark)) == 0;
-        box.Text = mark == '.' || mark == '-'
-            ? ""
-            : std::string(1, static_cast<char>(std::tolower(mark)));
-        if (mark == '(') {
-            const std::size_t end = text.find(')', at);
-            box.Text = Blanks(text.substr(at, end - at), '_', ' ');
-            at = end + 1;
-        }
-    }
 }
 
 std::vector<std::string> Split(const std::string& text, char mark)
@@ -60,197 +25,184 @@ std::vector<std::string> Split(const std::string& text, char mark)
     return pieces;
 }
 
-std::string Joined(const std::vector<std::string>& pieces)
+void Append(std::string& list, const std::string& piece, char mark)
+{
+    list += (list.empty() ? "" : std::string(1, mark)) + piece;
+}
+
+std::string RowText(const LetterRow& row)
 {
     std::string text;
-    for (const std::string& piece : pieces)
-        text += (text.empty() ? "" : ",") + piece;
+    for (const auto& [letters, enabled] : row) {
+        if (letters.empty())
+            text += enabled ? '.' : '-';
+        else if (letters.size() == 1 && letters >= "a" && letters <= "z")
+            text += enabled ? letters[0] : static_cast<char>(std::toupper(letters[0]));
+        else
+            text += '(' + Replaced(letters, ' ', '_') + ')';
+    }
     return text;
 }
 
-template <typename Flags> std::string YesNo(const Flags& flags)
+void SetRow(LetterRow& row, const std::string& text)
 {
-    const auto visible = [](const auto* flag) { return *flag; };
-    return std::ranges::all_of(flags, visible) ? "yes"
-        : std::ranges::none_of(flags, visible) ? "no"
-                                               : "part";
-}
-
-template <typename BoardType> auto GameFrames(BoardType& board)
-{
-    return std::array{&board.Frame2.Visible, &board.Frame3.Visible, &board.Frame4.Visible,
-        &board.Frame5.Visible, &board.Frame7.Visible, &board.Frame9.Visible};
-}
-
-template <typename BoardType> auto PanelParts(BoardType& board)
-{
-    return std::array{&board.Frame1.Visible, &board.Command2.Visible};
-}
-
-template <LetterRow Board::*... rows> std::string RowsText(const Board& board)
-{
-    std::string text;
-    ((text += (text.empty() ? "" : "/") + RowText(board.*rows)), ...);
-    return text;
-}
-
-template <LetterRow Board::*... rows> void SetRows(Board& board, const std::string& text)
-{
-    const std::vector<std::string> pieces = Split(text, '/');
     std::size_t at = 0;
-    (SetRow(board.*rows, pieces.at(at++)), ...);
+    for (LetterBox& box : row) {
+        const char mark = text.at(at++);
+        box.Enabled = mark != '-' && (mark < 'A' || mark > 'Z');
+        box.Text = mark == '.' || mark == '-'
+            ? ""
+            : std::string(1, static_cast<char>(std::tolower(mark)));
+        if (mark == '(') {
+            const std::size_t end = text.find(')', at);
+            box.Text = Replaced(text.substr(at, end - at), '_', ' ');
+            at = end + 1;
+        }
+    }
 }
 
-template <NumberBox Board::*box> std::string NumberText(const Board& board)
-{
-    return Blanks((board.*box).Text, ' ', '_');
-}
-
-template <NumberBox Board::*box> void SetNumber(Board& board, const std::string& text)
-{
-    (board.*box).Text = Blanks(text, '_', ' ');
-}
-
-template <std::int16_t Board::*count> std::string CountText(const Board& board)
-{
-    return std::to_string(board.*count);
-}
-
-template <std::int16_t Board::*count> void SetCount(Board& board, const std::string& text)
-{
-    board.*count = static_cast<std::int16_t>(std::stoi(text));
-}
-
-struct ButtonName {
-    Button Board::*button;
-    const char* name;
-};
-const ButtonName buttonNames[] = {{&Board::Command4, "<"}, {&Board::Command5, ">"},
-    {&Board::Command6, "Mix"}, {&Board::Command9, "LayOut"}, {&Board::Command16, "+"}};
-
-std::string OffText(const Board& board)
-{
-    std::vector<std::string> off;
-    for (const auto& [button, name] : buttonNames)
-        if (!(board.*button).Enabled)
-            off.emplace_back(name);
-    return Joined(off);
-}
-
-void SetOff(Board& board, const std::string& off)
-{
-    const std::vector<std::string> names = Split(off, ',');
-    for (const auto& [button, name] : buttonNames)
-        (board.*button).Enabled = std::ranges::find(names, name) == names.end();
-}
-
-std::string HeldText(const Board& board)
-{
-    return board.HeldFlag ? board.HeldLetter + std::to_string(board.HeldIndex) : board.HeldLetter;
-}
-
-void SetHeld(Board& board, const std::string& held)
-{
-    board.HeldFlag = !held.empty();
-    board.HeldLetter = held.substr(0, held.size() > 1 ? 1 : 0);
-    board.HeldIndex = static_cast<std::int16_t>(held.empty() ? 0 : held.back() - '0');
-}
-
-// The words of "Used Words"; made-up ones are only counted, as in "49,planet".
+// A word of "Used Words" as "planet", so many made-up ones as "49".
 std::string UsedText(const Board& board)
 {
-    std::vector<std::string> pieces;
-    bool counting = false;
-    for (const std::string& word : board.List1.Words()) {
-        const bool madeUp = word.starts_with("word");
-        if (madeUp && counting)
-            pieces.back() = std::to_string(std::stoi(pieces.back()) + 1);
-        else
-            pieces.push_back(madeUp ? "1" : word);
-        counting = madeUp;
-    }
-    return Joined(pieces);
+    std::string text;
+    int madeUp = 0;
+    for (const std::string& word : board.List1.Words())
+        word.starts_with("word") ? void(++madeUp) : Append(text, word, ',');
+    return madeUp == 0 ? text : std::to_string(madeUp) + (text.empty() ? "" : ",") + text;
 }
 
 void SetUsed(Board& board, const std::string& used)
 {
     board.List1.Clear();
-    for (std::string& word : board.UsedWords)
-        word.clear();
+    board.UsedWords = {};
     board.UsedCount = 0;
+    board.Text9.Text = "0";
     for (const std::string& word : Split(used, ',')) {
-        const bool count = std::isdigit(static_cast<unsigned char>(word[0])) != 0;
-        for (int k = count ? std::stoi(word) : 1; k > 0; --k) {
-            board.List1.AddItem(count ? "word" + std::to_string(k) : word);
-            AddUsedWord(board, board.List1.Words().back());
+        const bool madeUp = word[0] <= '9';
+        for (int k = madeUp ? std::stoi(word) : 1; k > 0; --k) {
+            NumberBox nobody;
+            ScoreWord(board, nobody, madeUp ? "word" + std::to_string(k) : word);
         }
     }
-    board.Text9.Text = used.empty() ? "0" : PaddedForm(10.0 * board.List1.ListCount());
-}
-
-// Words and how often they are repeated, as in "garden,planet*150".
-void SetCandidates(Board& board, const std::string& text)
-{
-    const std::size_t star = text.find('*');
-    const int times = star == std::string::npos ? 1 : std::stoi(text.substr(star + 1));
-    board.CandidateCount = 0;
-    for (int time = 0; time < times; ++time)
-        for (const std::string& word : Split(text.substr(0, star), ','))
-            board.Candidates(++board.CandidateCount) = word;
-}
-
-void SetHidden(Board& board, const std::string& words)
-{
-    for (int slot = 1; slot <= 3; ++slot)
-        board.HiddenWords(slot) = Split(words, '/').at(static_cast<std::size_t>(slot) - 1);
 }
 
 struct Part {
     const char* key;
-    std::string (*text)(const Board& board);
-    void (*set)(Board& board, const std::string& text);
+    std::function<std::string(const Board&)> text;
+    std::function<void(Board&, const std::string&)> set;
 };
 
+Part Rows(const char* key, std::vector<LetterRow Board::*> rows)
+{
+    return {key,
+        [rows](const Board& board) {
+            std::string text;
+            for (const auto row : rows)
+                Append(text, RowText(board.*row), '/');
+            return text;
+        },
+        [rows](Board& board, const std::string& text) {
+            for (std::size_t k = 0; k < rows.size(); ++k)
+                SetRow(board.*rows[k], Split(text, '/').at(k));
+        }};
+}
+
+Part Number(const char* key, NumberBox Board::*box)
+{
+    return {key, [box](const Board& board) { return Replaced((board.*box).Text, ' ', '_'); },
+        [box](Board& board, const std::string& text) {
+            (board.*box).Text = Replaced(text, '_', ' ');
+        }};
+}
+
+Part Count(const char* key, std::int16_t Board::*count)
+{
+    return {key, [count](const Board& board) { return std::to_string(board.*count); },
+        [count](Board& board, const std::string& text) {
+            board.*count = static_cast<std::int16_t>(std::stoi(text));
+        }};
+}
+
+// Flags that go together: "yes", "no", or "part" when they do not.
+template <typename... Owner> Part Visible(const char* key, Owner Board::*... owners)
+{
+    return {key,
+        [=](const Board& board) {
+            const int visible = (0 + ... + (board.*owners).Visible);
+            return visible == sizeof...(owners) ? "yes" : visible == 0 ? "no" : "part";
+        },
+        [=](Board& board, const std::string& text) {
+            (((board.*owners).Visible = text == "yes"), ...);
+        }};
+}
+
+// The buttons that are disabled.
+Part Off(const char* key, std::vector<std::pair<std::string, Button Board::*>> buttons)
+{
+    return {key,
+        [buttons](const Board& board) {
+            std::string off;
+            for (const auto& [name, button] : buttons)
+                if (!(board.*button).Enabled)
+                    Append(off, name, ',');
+            return off;
+        },
+        [buttons](Board& board, const std::string& text) {
+            const std::vector<std::string> off = Split(text, ',');
+            for (const auto& [name, button] : buttons)
+                (board.*button).Enabled = std::ranges::find(off, name) == off.end();
+        }};
+}
+
 const Part parts[] = {
-    {"you=", RowsText<&Board::Text1>, SetRows<&Board::Text1>},
-    {"me=", RowsText<&Board::MyLetters>, SetRows<&Board::MyLetters>},
-    {"swap=", RowsText<&Board::SwapLetters>, SetRows<&Board::SwapLetters>},
-    {"up=", RowsText<&Board::Text2>, SetRows<&Board::Text2>},
-    {"held=", HeldText, SetHeld},
-    {"you:", NumberText<&Board::YourScore>, SetNumber<&Board::YourScore>},
-    {"me:", NumberText<&Board::MyScore>, SetNumber<&Board::MyScore>},
-    {"bonus:", NumberText<&Board::Text9>, SetNumber<&Board::Text9>},
+    Rows("you=", {&Board::Text1}),
+    Rows("me=", {&Board::MyLetters}),
+    Rows("swap=", {&Board::SwapLetters}),
+    Rows("up=", {&Board::Text2}),
+    {"held=",
+        [](const Board& board) {
+            return board.HeldLetter + (board.HeldFlag ? std::to_string(board.HeldIndex) : "");
+        },
+        [](Board& board, const std::string& held) {
+            board.HeldFlag = !held.empty();
+            board.HeldLetter = held.substr(0, held.size() / 2);
+            board.HeldIndex = static_cast<std::int16_t>(held.empty() ? 0 : held.back() - '0');
+        }},
+    Number("you:", &Board::YourScore),
+    Number("me:", &Board::MyScore),
+    Number("bonus:", &Board::Text9),
     {"used=", UsedText, SetUsed},
-    {"ledger:", CountText<&Board::UsedCount>, nullptr},
+    Count("ledger:", &Board::UsedCount),
     {"hidden=",
         [](const Board& board) {
             return board.HiddenWords(1) + "/" + board.HiddenWords(2) + "/" + board.HiddenWords(3);
         },
-        SetHidden},
-    {"shown=", RowsText<&Board::Word1, &Board::Word2, &Board::Word3>,
-        SetRows<&Board::Word1, &Board::Word2, &Board::Word3>},
-    {"guess=", RowsText<&Board::Text6, &Board::Text7, &Board::Text8>,
-        SetRows<&Board::Text6, &Board::Text7, &Board::Text8>},
-    {"next:", CountText<&Board::LayOutNext>, SetCount<&Board::LayOutNext>},
-    {"fruitless:", CountText<&Board::FruitlessSwaps>, SetCount<&Board::FruitlessSwaps>},
-    {"level:", CountText<&Board::Level>, SetCount<&Board::Level>},
-    {"candidates=", CountText<&Board::CandidateCount>, SetCandidates},
-    {"responses:", CountText<&Board::Check1>, SetCount<&Board::Check1>},
-    {"off=", OffText, SetOff},
-    {"go:", [](const Board& board) { return YesNo(std::array{&board.Label5.Visible}); },
-        [](Board& board, const std::string& text) { board.Label5.Visible = text == "yes"; }},
-    {"frames:", [](const Board& board) { return YesNo(GameFrames(board)); },
-        [](Board& board, const std::string& text) {
-            for (bool* flag : GameFrames(board))
-                *flag = text == "yes";
+        [](Board& board, const std::string& words) {
+            std::ranges::copy(Split(words, '/'), board.HiddenWords.begin());
         }},
-    {"panel:", [](const Board& board) { return YesNo(PanelParts(board)); },
+    Rows("shown=", {&Board::Word1, &Board::Word2, &Board::Word3}),
+    Rows("guess=", {&Board::Text6, &Board::Text7, &Board::Text8}),
+    Count("next:", &Board::LayOutNext),
+    Count("fruitless:", &Board::FruitlessSwaps),
+    Count("level:", &Board::Level),
+    // Words and how often they are repeated, as in "garden,planet*150".
+    {"candidates=", [](const Board& board) { return std::to_string(board.CandidateCount); },
         [](Board& board, const std::string& text) {
-            for (bool* flag : PanelParts(board))
-                *flag = text == "yes";
+            const std::vector<std::string> halves = Split(text + "*1", '*');
+            board.CandidateCount = 0;
+            for (int times = std::stoi(halves[1]); times > 0; --times)
+                for (const std::string& word : Split(halves[0], ','))
+                    board.Candidates(++board.CandidateCount) = word;
         }},
-    {"caption=", [](const Board& board) { return Blanks(board.Caption, ' ', '_'); },
-        [](Board& board, const std::string& text) { board.Caption = Blanks(text, '_', ' '); }},
+    Count("responses:", &Board::Check1),
+    Off("off=",
+        {{"<", &Board::Command4}, {">", &Board::Command5}, {"Mix", &Board::Command6},
+            {"LayOut", &Board::Command9}, {"+", &Board::Command16}}),
+    Visible("go:", &Board::Label5),
+    Visible("frames:", &Board::Frame2, &Board::Frame3, &Board::Frame4, &Board::Frame5,
+        &Board::Frame7, &Board::Frame9),
+    Visible("panel:", &Board::Frame1, &Board::Command2),
+    {"caption=", [](const Board& board) { return Replaced(board.Caption, ' ', '_'); }, nullptr},
 };
 
 std::string Sorted(std::string letters)
@@ -272,8 +224,11 @@ std::vector<std::pair<std::string, std::string>> PartsOf(const Board& board)
 std::string Line(const Board& board)
 {
     std::string line;
-    for (const Part& part : std::span(parts).first(7))
-        line += (line.empty() ? "" : " ") + (part.key + part.text(board));
+    for (const auto& [key, text] : PartsOf(board))
+        if (key != "bonus:")
+            Append(line, key + text, ' ');
+        else
+            break;
     return line;
 }
 
@@ -283,7 +238,7 @@ void SetBoard(Board& board, const std::string& text)
     for (std::string word; words >> word;) {
         const std::string key = word.substr(0, word.find_first_of("=:") + 1);
         const auto* part = std::ranges::find(parts, key, &Part::key);
-        if (part == std::end(parts) || part->set == nullptr)
+        if (part == std::end(parts) || !part->set)
             ADD_FAILURE() << "not a part of a board that can be set: " << word;
         else
             part->set(board, word.substr(key.size()));
