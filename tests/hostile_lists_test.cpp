@@ -8,11 +8,14 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <optional>
 #include <sys/stat.h>
 
 namespace {
+
+using Path = std::filesystem::path;
 
 const std::string words = "planet\ngarden\nsimple\nnested\nsimple\n";
 
@@ -32,7 +35,7 @@ public:
 };
 
 // Starts a game and plays a few goes; false when the message came instead.
-bool Starts(const std::filesystem::path& path, EventfulPlatform platform = EventfulPlatform(1))
+bool Starts(const Path& path, EventfulPlatform platform = EventfulPlatform(1))
 {
     const auto begin = std::chrono::steady_clock::now();
     EventPlayer player(path, platform);
@@ -44,30 +47,6 @@ bool Starts(const std::filesystem::path& path, EventfulPlatform platform = Event
     return started;
 }
 
-std::string WordsOfOneToThousandLetters()
-{
-    std::string bytes;
-    for (std::size_t length = 1; length <= 1000; ++length)
-        bytes += std::string(length, static_cast<char>('a' + length % 26)) + "\n";
-    return bytes;
-}
-
-std::string Utf16(const std::string& text)
-{
-    std::string bytes = "\xFF\xFE";
-    for (const char letter : text)
-        bytes += {letter, '\0'};
-    return bytes;
-}
-
-std::string Binary()
-{
-    std::string bytes;
-    for (unsigned i = 0, value = 1; i < 100'000; ++i, value = value * 1664525 + 1013904223)
-        bytes += static_cast<char>(value >> 24);
-    return bytes;
-}
-
 TEST(HostileLists, StartAGameOrEndInTheMessage)
 {
     struct Row {
@@ -75,18 +54,25 @@ TEST(HostileLists, StartAGameOrEndInTheMessage)
         std::string bytes;
         bool starts;
     };
+    std::string longer;
+    std::string binary;
+    std::string utf16 = "\xFF\xFE";
+    for (unsigned i = 1, value = 1; i <= 1000; ++i, value = value * 1664525 + 1013904223) {
+        longer += std::string(i, static_cast<char>('a' + i % 26)) + "\n";
+        binary += {static_cast<char>(value >> 24), static_cast<char>(value >> 16)};
+    }
+    for (const char letter : words)
+        utf16 += {letter, '\0'};
     const Row rows[] = {
         {"one word", "planet\n", false},
-        {"binary", Binary(), false},
+        {"binary", binary, false},
         {"ten million letters in one line", std::string(10'000'000, 'x'), false},
-        {"ten million letters before the words", std::string(10'000'000, 'x') + "\n" + words,
-            false},
+        {"ten million, then words", std::string(10'000'000, 'x') + "\n" + words, false},
         {"only commas", std::string(20'000, ','), false},
         {"a quotation never closed", "\"" + words, false},
-        {"words of 1 to 1000 letters", WordsOfOneToThousandLetters(), false},
-        {"UTF-16", Utf16(words), false},
-        {"UTF-8, six letters in seven bytes", "plan\xC3\xA8t\n\xC3\xA9tages\nv\xC3\xAAture\n",
-            false},
+        {"words of 1 to 1000 letters", longer, false},
+        {"UTF-16", utf16, false},
+        {"UTF-8, seven bytes", "plan\xC3\xA8t\n\xC3\xA9tages\nv\xC3\xAAture\n", false},
         {"UTF-8, six bytes", "pl\xC3\xA8ts\nm\xC3\xAAles\n\xC3\xA9tage\nvois\xC3\xA9\nvois\xC3\xA9",
             true},
         {"no line end, commas and blanks", "planet,  garden,simple,nested, simple", true},
@@ -98,39 +84,28 @@ TEST(HostileLists, StartAGameOrEndInTheMessage)
         EXPECT_EQ(Starts(WordListFile(row.bytes).Path()), row.starts) << row.list;
 }
 
-// What can stand in the place of the list of a sudden.
+// What can come in the place of the list.
 struct Change {
     const char* name;
-    void (*make)(const WordListFile& list);
-    std::optional<bool> starts; // nothing when that depends on the draws
+    void (*make)(const Path& list);
+    std::optional<bool> starts; // nothing where it depends on the draws, or on who plays
 };
 
+void Write(const Path& list, const std::string& bytes)
+{
+    std::ofstream(list) << bytes;
+}
+
 const Change changes[] = {
-    {"nothing", [](const WordListFile& list) { std::filesystem::remove(list.Path()); }, false},
-    {"fewer words", [](const WordListFile& list) { list.Write("planet\n"); }, false},
-    {"other words",
-        [](const WordListFile& list) { list.Write("aaaaaa\nbbbbbb\ncccccc\naaaaaa\naaaaaa"); }, {}},
-    {"more words", [](const WordListFile& list) { list.Write(words + words); }, true},
-    {"a hundred thousand million bytes",
-        [](const WordListFile& list) {
-            std::filesystem::resize_file(list.Path(), 100'000'000'000);
-        },
-        false},
-    {"a folder",
-        [](const WordListFile& list) {
-            std::filesystem::remove(list.Path());
-            std::filesystem::create_directory(list.Path());
-        },
-        false},
-    {"a named pipe",
-        [](const WordListFile& list) {
-            std::filesystem::remove(list.Path());
-            EXPECT_EQ(mkfifo(list.Path().c_str(), 0600), 0);
-        },
-        false},
-    {"a file that may not be read",
-        [](const WordListFile& list) { std::filesystem::permissions(list.Path(), {}); },
-        {}}, // root may
+    {"nothing", [](const Path& list) { remove(list); }, false},
+    {"fewer words", [](const Path& list) { Write(list, "planet\n"); }, false},
+    {"more words", [](const Path& list) { Write(list, words + words); }, true},
+    {"other words", [](const Path& list) { Write(list, "eaglet\nimpels\nsimple\ngarden\nsimple"); },
+        {}},
+    {"a hundred gigabytes", [](const Path& list) { resize_file(list, 100'000'000'000); }, false},
+    {"a folder", [](const Path& list) { remove(list), create_directory(list); }, false},
+    {"a named pipe", [](const Path& list) { remove(list), mkfifo(list.c_str(), 0600); }, false},
+    {"no right to read it", [](const Path& list) { permissions(list, {}); }, {}},
 };
 
 TEST(HostileLists, ChangeBeforeTheStartOrBetweenItsPasses)
@@ -141,9 +116,9 @@ TEST(HostileLists, ChangeBeforeTheStartOrBetweenItsPasses)
             const WordListFile list(words);
             EventfulPlatform platform(1);
             platform.drawsLeft = draw;
-            platform.happening = [&] { change.make(list); };
+            platform.happening = [&] { change.make(list.Path()); };
             if (draw == 0)
-                change.make(list);
+                platform.happening();
             const bool started = Starts(list.Path(), platform);
             EXPECT_EQ(started, change.starts.value_or(started)) << "draw " << draw;
         }
