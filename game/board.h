@@ -103,8 +103,8 @@ struct Board {
     // The computer: 0 while no level is chosen, else 1 (strongest) to 6; and its search.
     std::int16_t Level = 0;
     std::array<unsigned char, 6> SortBuffer{}; // letters on their way through SortLetters
-    bool ComputerScored = false;     // the swap last tried made a word
-    std::int16_t FruitlessSwaps = 0; // 0 to 4
+    bool ComputerScored = false;               // the swap last tried made a word
+    std::int16_t FruitlessSwaps = 0;           // 0 to 4
 
     // "Show Responses": 1 when ticked, 0 when clear.
     std::int16_t Check1 = 0;
