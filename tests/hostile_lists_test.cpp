@@ -18,6 +18,12 @@ namespace {
 using Path = std::filesystem::path;
 
 const std::string words = "planet\ngarden\nsimple\nnested\nsimple\n";
+const std::string manyWords = [] {
+    std::string bytes;
+    for (int i = 0; i < 5000; ++i)
+        bytes += words;
+    return bytes;
+}();
 
 // Chance that lets something happen to the list at one of its draws: one stands before each pick of
 // a hidden word, the eighteen of the deal between the last pick and the collecting of candidates.
@@ -69,7 +75,8 @@ TEST(HostileLists, StartAGameOrEndInTheMessage)
         {"ten million letters in one line", std::string(10'000'000, 'x'), false},
         {"ten million, then words", std::string(10'000'000, 'x') + "\n" + words, false},
         {"only commas", std::string(20'000, ','), false},
-        {"a quotation never closed", "\"" + words, false},
+        {"a quotation never closed", "\"" + manyWords, false},
+        {"two first letters, then an empty line", "planet\ngarden\nplanet\n\n", false},
         {"words of 1 to 1000 letters", longer, false},
         {"UTF-16", utf16, false},
         {"UTF-8, seven bytes", "plan\xC3\xA8t\n\xC3\xA9tages\nv\xC3\xAAture\n", false},
@@ -82,6 +89,7 @@ TEST(HostileLists, StartAGameOrEndInTheMessage)
     };
     for (const Row& row : rows)
         EXPECT_EQ(Starts(WordListFile(row.bytes).Path()), row.starts) << row.list;
+    EXPECT_FALSE(Starts("/proc/self/mem")) << "a file that opens and cannot be read";
 }
 
 // What can come in the place of the list.
@@ -128,10 +136,7 @@ TEST(HostileLists, ChangeBeforeTheStartOrBetweenItsPasses)
 // The reader holds the first of the list when the rest of it goes.
 TEST(HostileLists, CutShortInTheMiddleOfAPass)
 {
-    std::string bytes;
-    for (int i = 0; i < 5000; ++i)
-        bytes += words;
-    const WordListFile list(bytes);
+    const WordListFile list(manyWords);
     LexiconFile lexicon(list.Path());
     lexicon.Open();
     EXPECT_EQ(lexicon.ReadRecord(), "planet");
