@@ -1,11 +1,10 @@
 // A monkey at the real window: clicks, keys and answers without sense, from a seed. The number of
 // its events can be raised with QUORVEL_MONKEY_EVENTS.
 
-#include "game/rows.h"
 #include "test_game.h"
+#include "tools/self_play/seeded_platform.h"
 #include "ui/main_window.h"
 #include "ui/qt_view.h"
-#include "ui/system_platform.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -29,6 +28,7 @@ class Monkey {
 public:
     explicit Monkey(unsigned seed)
         : chance_(seed)
+        , platform_(seed)
     {
         view.PlayIn(window_);
         QObject::connect(&answerer_, &QTimer::timeout, &answerer_, [this] { AnswerMessage(); });
@@ -52,8 +52,10 @@ public:
                 Number(8) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
         } else if (kind < 98) {
             window_.setWindowState(states[Number(std::size(states))]);
-        } else {
-            GuessRight();
+        } else if (!board.HiddenWords(3).empty()) {
+            SetBoard(board,
+                "guess=" + board.HiddenWords(1) + "/" + board.HiddenWords(2) + "/"
+                    + board.HiddenWords(3));
         }
         if (board.CandidateCount > 0) {
             ASSERT_TRUE(BoardIsOk(board));
@@ -93,22 +95,8 @@ private:
     void PressMouse(QPoint at)
     {
         const auto button = Number(10) == 0 ? Qt::RightButton : Qt::LeftButton;
-        if (Number(10) == 0)
-            QTest::mouseDClick(window_.windowHandle(), button, {}, at);
-        else
+        for (int clicks = Number(10) == 0 ? 2 : 1; clicks > 0; --clicks)
             QTest::mouseClick(window_.windowHandle(), button, {}, at);
-    }
-
-    void GuessRight()
-    {
-        for (int box = 1; box <= 6; ++box) {
-            const auto place = static_cast<std::size_t>(box) - 1;
-            if (board.HiddenWords(1).empty())
-                return;
-            board.Text6(box).Text = board.HiddenWords(1)[place];
-            board.Text7(box).Text = board.HiddenWords(2)[place];
-            board.Text8(box).Text = board.HiddenWords(3)[place];
-        }
     }
 
     std::string ShownIn(const QString& name) const
@@ -132,7 +120,7 @@ private:
     }
 
     std::minstd_rand chance_;
-    SystemPlatform platform_;
+    SeededPlatform platform_;
     Game game_{board, view, platform_, QUORVEL_WORD_LIST};
     MainWindow window_{game_};
     QTimer answerer_;
