@@ -176,7 +176,7 @@ TEST(Events, ThousandGamesTakeNoMoreRoomThanTen)
     std::size_t inUse = 0;
     for (int game = 1; game <= 1000; ++game) {
         ASSERT_EQ(
-            player.Play("Option1:1 Command1 word:1 word:3 Text1:2 Command14 right Command7"), "");
+            player.Play("Option1:6 Command1 word:1 word:3 Text1:2 Command14 right Command7"), "");
         if (game == 10)
             inUse = mallinfo2().uordblks;
     }
