@@ -140,7 +140,7 @@ std::string SearchAllExchanges(Board& board)
     for (int i = 1; i <= 6; ++i) {
         for (int j = 1; j <= 6; ++j) {
             std::swap(board.MyLetters(i).Text, board.SwapLetters(j).Text);
-            const std::string word = SearchForWord(board);
+            std::string word = SearchForWord(board);
             std::swap(board.MyLetters(i).Text, board.SwapLetters(j).Text);
             if (!word.empty())
                 return word;

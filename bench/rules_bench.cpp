@@ -10,7 +10,9 @@
 #include "lexicon/passes.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <iterator>
 #include <memory>
 
 namespace {
@@ -102,21 +104,25 @@ void TimeStarts(std::vector<Timing>& timings)
     timings.push_back(worst);
 }
 
+Timing TimeLookup(int records)
+{
+    const auto list = std::make_shared<MadeList>(MadeWords(records));
+    return {.what = "Word not in a list of " + to_string(records),
+        .work = to_string(records) + " records",
+        .game =
+            [list] {
+                LexiconFile lexicon(list->Path());
+                lexicon.Open();
+                DoNotOptimize(FindWord(lexicon, "planet"));
+            },
+        .plain = [list] { DoNotOptimize(plain::FindWord(list->Path(), "planet")); },
+        .floor = [list] { DoNotOptimize(CountLineEnds(list->Path())); }};
+}
+
 void TimeLookups(std::vector<Timing>& timings)
 {
-    for (const int records : {1000, 2000, 4000, 8000, 16000, 32767}) {
-        const auto list = std::make_shared<MadeList>(MadeWords(records));
-        timings.push_back({.what = "Word not in a list of " + to_string(records),
-            .work = to_string(records) + " records",
-            .game =
-                [list] {
-                    LexiconFile lexicon(list->Path());
-                    lexicon.Open();
-                    DoNotOptimize(FindWord(lexicon, "planet"));
-                },
-            .plain = [list] { DoNotOptimize(plain::FindWord(list->Path(), "planet")); },
-            .floor = [list] { DoNotOptimize(CountLineEnds(list->Path())); }});
-    }
+    constexpr std::array listLengths = {1000, 2000, 4000, 8000, 16000, 32767};
+    std::ranges::transform(listLengths, std::back_inserter(timings), TimeLookup);
 }
 
 void TimeGoAndDeal(std::vector<Timing>& timings)
@@ -152,8 +158,8 @@ int main(int argc, char** argv)
         "--benchmark_min_time=0.05", "--benchmark_enable_random_interleaving=true"};
     arguments.insert(arguments.end(), argv + 1, argv + argc);
     std::vector<char*> pointers;
-    for (std::string& argument : arguments)
-        pointers.push_back(argument.data());
+    std::ranges::transform(arguments, std::back_inserter(pointers),
+        [](std::string& argument) { return argument.data(); });
     int count = static_cast<int>(pointers.size());
     benchmark::Initialize(&count, pointers.data());
     if (benchmark::ReportUnrecognizedArguments(count, pointers.data()))

@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int mostRecords = 32767;
+constexpr long long wordsOfFiveLetters = 26LL * 26 * 26 * 26 * 26;
 const std::string hiddenWords[] = {"planet", "garden", "simple"};
 const std::string rowOfWorstGo = "aeinst";
 const std::string swapRowOfWorstGo = "eorlda";
@@ -47,7 +48,7 @@ std::vector<std::string> MadeWords(int count)
     for (int number = 0; number < count; ++number) {
         std::string word = "q     ";
         // The step shares no factor with 26^5, so no word comes twice.
-        int digits = static_cast<int>(number * 7368787LL % (26 * 26 * 26 * 26 * 26));
+        int digits = static_cast<int>(number * 7368787LL % wordsOfFiveLetters);
         for (std::size_t k = 1; k < word.size(); ++k, digits /= 26)
             word[k] = static_cast<char>('a' + digits % 26);
         words.push_back(word);
