@@ -1,7 +1,6 @@
 #include "board_text.h"
 
 #include "game/numbers.h"
-#include "game/rows.h"
 #include "game/scoring.h"
 
 #include <algorithm>
@@ -205,12 +204,6 @@ const Part parts[] = {
     {"caption=", [](const Board& board) { return Replaced(board.Caption, ' ', '_'); }, nullptr},
 };
 
-std::string Sorted(std::string letters)
-{
-    std::ranges::sort(letters);
-    return letters;
-}
-
 } // namespace
 
 std::vector<std::pair<std::string, std::string>> PartsOf(const Board& board)
@@ -219,17 +212,6 @@ std::vector<std::pair<std::string, std::string>> PartsOf(const Board& board)
     for (const Part& part : parts)
         all.emplace_back(part.key, part.text(board));
     return all;
-}
-
-std::string Line(const Board& board)
-{
-    std::string line;
-    for (const auto& [key, text] : PartsOf(board))
-        if (key != "bonus:")
-            Append(line, key + text, ' ');
-        else
-            break;
-    return line;
 }
 
 void SetBoard(Board& board, const std::string& text)
@@ -247,40 +229,8 @@ void SetBoard(Board& board, const std::string& text)
 
 testing::AssertionResult BoardIsOk(const Board& board)
 {
-    const auto letters
-        = [](const std::string& word, int k) { return word[static_cast<std::size_t>(k) - 1]; };
-    const std::string dealt = Spell(board.MyLetters) + Spell(board.Text1) + Spell(board.Text2)
-        + Spell(board.SwapLetters) + board.HeldLetter;
-    const auto& used = board.List1.Words();
-    const auto count = static_cast<double>(board.List1.ListCount());
-    bool ledgerIsList = board.UsedCount == std::min<int>(board.List1.ListCount(), 250);
-    for (int slot = 1; ledgerIsList && slot <= board.UsedCount; ++slot)
-        ledgerIsList = board.UsedWords(slot) == used[static_cast<std::size_t>(slot) - 1];
-    bool shownAreHidden = true;
-    for (const auto& [row, slot] :
-        {std::pair(&board.Word1, 1), {&board.Word2, 2}, {&board.Word3, 3}})
-        for (int k = 1; k <= 6; ++k)
-            shownAreHidden &= (*row)(k).Text.empty()
-                || (*row)(k).Text[0] == letters(board.HiddenWords(slot), k);
-    const std::pair<bool, const char*> rules[] = {
-        {Sorted(board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3))
-                == Sorted(dealt),
-            "the letters are those of the hidden words"},
-        {board.HeldFlag == (board.HeldIndex != 0) && board.HeldLetter.size() <= board.HeldFlag,
-            "the held letter agrees with itself"},
-        {board.Text9.Text == PaddedForm(10 * count) || (count == 0 && board.Text9.Text == "0"),
-            "the bonus is ten times the used words"},
-        {ledgerIsList, "the ledger is the list of used words, up to 250"},
-        {board.CandidateCount >= 300 && board.CandidateCount <= 2000,
-            "there are 300 to 2000 candidates"},
-        {board.FruitlessSwaps >= 0 && board.FruitlessSwaps <= 4, "0 to 4 goes were fruitless"},
-        {NumberOf(board.YourScore.Text) >= 0 && NumberOf(board.MyScore.Text) >= 0,
-            "no score is below 0"},
-        {shownAreHidden, "the letters shown are those of the hidden words"},
-    };
-    for (const auto& [holds, rule] : rules)
-        if (!holds)
-            return testing::AssertionFailure()
-                << "it is not so that " << rule << ": " << Line(board);
-    return testing::AssertionSuccess();
+    const std::string fault = FindFault(board);
+    if (fault.empty())
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << fault << ": " << Line(board);
 }

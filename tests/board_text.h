@@ -6,6 +6,7 @@
 #pragma once
 
 #include "game/board.h"
+#include "tools/search/board_rules.h"
 
 #include <gtest/gtest.h>
 
@@ -15,9 +16,6 @@
 
 // Every part of the board, as in {"you=", "planet"}.
 std::vector<std::pair<std::string, std::string>> PartsOf(const Board& board);
-
-// The rows, the held letter and the scores.
-std::string Line(const Board& board);
 
 void SetBoard(Board& board, const std::string& parts);
 

@@ -1,9 +1,9 @@
 // Word lists that nobody would write, and lists that change while they are read: a game that keeps
 // its rules, or the one message and the end, and neither of them late.
 
-#include "events.h"
 #include "lexicon/lexicon_file.h"
 #include "test_game.h"
+#include "tools/search/event_player.h"
 #include "tools/self_play/seeded_platform.h"
 
 #include <chrono>

@@ -1,7 +1,7 @@
 // Any bytes as a word list: a game that holds its rules for a few goes, or the one message and the
 // end.
 
-#include "events.h"
+#include "tools/search/event_player.h"
 #include "tools/self_play/seeded_platform.h"
 
 #include <cstdio>

@@ -1,9 +1,9 @@
-#include "events.h"
+#include "tools/search/event_player.h"
 
 #include "game/clicks.h"
 #include "game/rows.h"
 #include "game/start_of_game.h"
-#include "test_game.h"
+#include "tools/search/board_rules.h"
 
 #include <algorithm>
 #include <sstream>
@@ -38,19 +38,20 @@ bool InLedger(const Board& board, const std::string& word, int slots)
         != 0;
 }
 
+struct ProgramEnded { };
+
 } // namespace
 
 EventPlayer::EventPlayer(std::filesystem::path lexicon, Platform& platform)
-    : game_{board, view_, platform, std::move(lexicon)}
+    : game_{board, *this, platform, std::move(lexicon)}
 {
-    view_.during = [this](const std::string& call) { ShowCall(call); };
     StartProgram();
 }
 
 void EventPlayer::StartProgram()
 {
     board = Board{};
-    view_.answers.clear();
+    answers_.clear();
     pending_.clear();
     depth_ = 0;
     exchanged_ = false;
@@ -61,7 +62,6 @@ std::string EventPlayer::Play(const std::string& script)
 {
     std::istringstream words(script);
     for (std::string event; failure_.empty() && words >> event;) {
-        view_.calls.clear();
         try {
             if (event.starts_with('~')) {
                 pending_.push_back(event.substr(1));
@@ -70,8 +70,8 @@ std::string EventPlayer::Play(const std::string& script)
                 RunPending();
             }
         } catch (const ProgramEnded&) {
-            const std::string& last = view_.calls.end()[-2];
-            Require(last.starts_with("New Game?") || last.ends_with("C:\\ Directory (Folder)"),
+            Require(lastCall_.starts_with("New Game?")
+                    || lastCall_.ends_with("C:\\ Directory (Folder)"),
                 "the program ended for no reason");
             StartProgram();
         }
@@ -94,7 +94,7 @@ void EventPlayer::Do(const std::string& event)
     const std::string control = event.substr(0, event.find_first_of(":="));
     const int index = event.size() > control.size() ? event[control.size() + 1] - '0' : 0;
     if (event == "yes" || event == "no")
-        return view_.answers.push_back(event == "yes" ? Answer::Yes : Answer::No);
+        return answers_.push_back(event == "yes" ? Answer::Yes : Answer::No);
     if (control == "word")
         return SubmitWord(std::stoi(event.substr(5)));
     if (FindClick(control))
@@ -175,8 +175,34 @@ void EventPlayer::SubmitWord(int pick)
     }
 }
 
+void EventPlayer::ShowMessage(const std::string& text, const std::string& title)
+{
+    ShowCall(title + ": " + text);
+}
+
+Answer EventPlayer::AskYesNo(const std::string& text, const std::string& title)
+{
+    ShowCall(title + "? " + text);
+    if (answers_.empty())
+        return Answer::Yes;
+    const Answer answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+}
+
+void EventPlayer::RefreshWindow()
+{
+    ShowCall("refresh");
+}
+
+void EventPlayer::EndProgram()
+{
+    throw ProgramEnded{};
+}
+
 void EventPlayer::ShowCall(const std::string& call)
 {
+    lastCall_ = call;
     // The words and numbers behind a second colon would make each message a kind of its own.
     ++counts[call.substr(0, call.find(':', std::min(call.size(), call.find(':') + 1)))];
     if (call == "refresh") {
@@ -186,8 +212,6 @@ void EventPlayer::ShowCall(const std::string& call)
         RunPending();
         interrupted_ = interrupted;
     }
-    if (call.find("? ") != std::string::npos && view_.answers.empty())
-        view_.answers.push_back(Answer::Yes);
     if (call == "Quorvel2: Word Accepted") {
         counts["words behind the 50th"] += board.List1.ListCount() >= 50;
         Require(interrupted_ || !InLedger(board, Spell(board.Text1), 50), "a used word scores");
@@ -220,9 +244,9 @@ void EventPlayer::Check()
     // Between two games there are no candidates.
     const std::int16_t candidates = board.CandidateCount;
     board.CandidateCount = depth_ > 0 && candidates == 0 ? 300 : candidates;
-    const testing::AssertionResult result = BoardIsOk(board);
+    const std::string fault = FindFault(board);
     board.CandidateCount = candidates;
-    Require(result, result.message());
+    Require(fault.empty(), fault);
     const auto up = Filled(board.Text2);
     Require(up + Filled(board.Text1) + board.HeldFlag == 6, "not six letters to the player");
     Require(board.HeldFlag != board.HeldLetter.empty(), "an empty hand holds on");

@@ -13,12 +13,14 @@
 
 #include "game/board.h"
 #include "game/game.h"
+#include "game/game_view.h"
 #include "game/platform.h"
-#include "scripted_view.h"
 
+#include <deque>
 #include <map>
+#include <string>
 
-class EventPlayer {
+class EventPlayer : private GameView {
 public:
     EventPlayer(std::filesystem::path lexicon, Platform& platform);
 
@@ -31,6 +33,11 @@ public:
                                         // a handler or changed a box
 
 private:
+    void ShowMessage(const std::string& text, const std::string& title) override;
+    Answer AskYesNo(const std::string& text, const std::string& title) override;
+    void RefreshWindow() override;
+    [[noreturn]] void EndProgram() override;
+
     void StartProgram();
     void Do(const std::string& event);
     void RunPending();
@@ -40,11 +47,12 @@ private:
     void Require(bool holds, const std::string& rule);
     void Check();
 
-    ScriptedView view_;
     Game game_;
     std::string failure_;
+    std::deque<Answer> answers_;
     std::deque<std::string> pending_;
-    int depth_ = 0; // handlers under way, one inside the other
+    std::string lastCall_; // of the window
+    int depth_ = 0;        // handlers under way, one inside the other
     long refreshes_ = 0;
     bool interrupted_ = false; // the last RefreshWindow let an event through
     bool exchanged_ = false;   // this go's exchange is used or given up
