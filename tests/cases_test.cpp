@@ -17,6 +17,11 @@ struct Case {
     std::vector<std::string> lines;
 };
 
+void PrintTo(const Case& rule, std::ostream* out)
+{
+    *out << rule.name;
+}
+
 std::vector<Case> ReadCases()
 {
     std::vector<Case> cases;
