@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
@@ -152,6 +153,7 @@ private:
         auto button = QMessageBox::Ok;
         if (box->button(button) == nullptr) {
             ASSERT_FALSE(answers.empty()) << "no answer is prepared for: " << messages.back();
+            EXPECT_EQ(box->standardButton(box->defaultButton()), QMessageBox::Yes);
             button = answers.front() == 'y' ? QMessageBox::Yes : QMessageBox::No;
             answers.erase(0, 1);
         }

@@ -19,6 +19,8 @@ QMessageBox::StandardButton Ask(MainWindow& window, const std::string& text,
         QMessageBox::NoIcon, QString::fromUtf8(title), QString::fromUtf8(text), buttons, &window);
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
+    // Some desktops put "No" first, and Enter through the messages would end the program.
+    box.setDefaultButton(QMessageBox::Yes);
     for (QAbstractButton* button : box.buttons())
         button->setIcon(QIcon());
     // Wide enough for the title to be read, beside the buttons that window managers add.
