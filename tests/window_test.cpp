@@ -408,6 +408,8 @@ TEST_F(Window, IsPlayedByKeyboard)
 
     board.Text1(2).Text = "p";
     Play("key Right; key Enter");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Enter, Qt::KeypadModifier, "\r", true);
+    QCoreApplication::sendEvent(window.focusWidget(), &held);
     EXPECT_EQ(board.HeldIndex, 2);
     EXPECT_EQ(Spoken("Text1(2)"), "Your letter 2, empty, p is in your hand");
     Play("key Right; key Left; key Left; key Left; key Space");

@@ -9,8 +9,8 @@
 #include "ui/letter_tile.h"
 #include "ui/roster.h"
 
+#include <QApplication>
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -98,6 +98,11 @@ void WriteTick(Board& board, bool ticked)
     board.Check1 = ticked ? 1 : 0;
 }
 
+bool IsEnter(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
 void SetVisible(QWidget& widget, bool visible)
 {
     if (widget.isHidden() == visible)
@@ -142,6 +147,7 @@ MainWindow::MainWindow(Game& game)
     PlaceControls(controls_, pixelsPerTwip_);
     ShowBoard();
     Find("Option1", 1)->setFocus();
+    qApp->installEventFilter(this);
 }
 
 QWidget* MainWindow::Find(const char* control, int number) const
@@ -364,12 +370,21 @@ void MainWindow::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
+// A held Enter would click on and on, and answer the messages unread; here and in the messages it
+// counts once. A held Space does of itself.
+bool MainWindow::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    return key.isAutoRepeat() && IsEnter(key);
+}
+
 // Enter on the level panel chooses the level that has the focus; on the chosen one it is "OK".
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto* option = qobject_cast<QRadioButton*>(focusWidget());
-    if (!enter || option == nullptr)
+    if (!IsEnter(*event) || option == nullptr)
         QWidget::keyPressEvent(event);
     else if (option->isChecked())
         static_cast<QAbstractButton*>(Find("Command1"))->click();
