@@ -371,6 +371,10 @@ TEST_F(Window, TakesWhatIsTypedAndCallsNoHandler)
     Play("key Backspace; key Backspace");
     EXPECT_EQ(board.Text6(4).Text, "");
     EXPECT_EQ(Focused(), "Text6(3)");
+    // A click into a filled box and a letter replace what stands there; a second click does not.
+    Play("Text6(1); key q; Text7(4); Text7(4); key w");
+    EXPECT_EQ(board.Text6(1).Text, "q");
+    EXPECT_EQ(board.Text7(4).Text.size(), 2U);
     // A box takes any text.
     Play("Text7(2)");
     QTest::keyClicks(Named("Text7(2)"), "two words");

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include <limits>
+#include <utility>
 
 GuessBox::GuessBox(QWidget* parent)
     : QLineEdit(parent)
@@ -41,4 +42,19 @@ void GuessBox::keyPressEvent(QKeyEvent* event)
     const QString typed = event->text();
     if (!typed.isEmpty() && typed.back().isPrint() && text().left(cursorPosition()).endsWith(typed))
         StepTo(next_);
+}
+
+void GuessBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    entered_ = event->reason() == Qt::MouseFocusReason;
+}
+
+// The click that enters the box selects its text, as a step into it does; the next one places the
+// cursor.
+void GuessBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(entered_, false) && !hasSelectedText())
+        selectAll();
 }

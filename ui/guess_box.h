@@ -12,10 +12,13 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void StepTo(GuessBox* box);
 
     GuessBox* previous_ = nullptr;
     GuessBox* next_ = nullptr;
+    bool entered_ = false; // by the click that is being made
 };
