@@ -383,6 +383,10 @@ TEST_F(Window, TakesWhatIsTypedAndCallsNoHandler)
     EXPECT_EQ(board.Text7(3).Text, "\u00e9");
     Play("Text6(6); key Right");
     EXPECT_EQ(Focused(), "Text7(1)");
+    QInputMethodEvent composed;
+    composed.setCommitString("z");
+    QCoreApplication::sendEvent(window.focusWidget(), &composed);
+    EXPECT_EQ(Focused(), "Text7(2)");
     EXPECT_EQ(Line(board), line);
     EXPECT_TRUE(messages.empty());
 

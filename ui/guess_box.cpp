@@ -25,6 +25,13 @@ void GuessBox::StepTo(GuessBox* box)
         box->setFocus(Qt::TabFocusReason);
 }
 
+// What was typed moves on once it stands in the box.
+void GuessBox::StepAfter(const QString& typed)
+{
+    if (!typed.isEmpty() && typed.back().isPrint() && text().left(cursorPosition()).endsWith(typed))
+        StepTo(next_);
+}
+
 void GuessBox::keyPressEvent(QKeyEvent* event)
 {
     const bool atStart = cursorPosition() == 0 || hasSelectedText();
@@ -39,9 +46,13 @@ void GuessBox::keyPressEvent(QKeyEvent* event)
         return;
     }
     QLineEdit::keyPressEvent(event);
-    const QString typed = event->text();
-    if (!typed.isEmpty() && typed.back().isPrint() && text().left(cursorPosition()).endsWith(typed))
-        StepTo(next_);
+    StepAfter(event->text());
+}
+
+void GuessBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    QLineEdit::inputMethodEvent(event);
+    StepAfter(event->commitString());
 }
 
 void GuessBox::focusInEvent(QFocusEvent* event)

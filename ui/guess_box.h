@@ -12,11 +12,13 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void StepTo(GuessBox* box);
+    void StepAfter(const QString& typed);
 
     GuessBox* previous_ = nullptr;
     GuessBox* next_ = nullptr;
