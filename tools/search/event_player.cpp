@@ -243,7 +243,8 @@ void EventPlayer::Check()
         return;
     // Between two games there are no candidates.
     const std::int16_t candidates = board.CandidateCount;
-    board.CandidateCount = depth_ > 0 && candidates == 0 ? 300 : candidates;
+    if (depth_ > 0 && candidates == 0)
+        board.CandidateCount = 300;
     const std::string fault = FindFault(board);
     board.CandidateCount = candidates;
     Require(fault.empty(), fault);
