@@ -4,18 +4,43 @@
 
 #include <QAbstractButton>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include <cstdlib>
 
 namespace {
 
+// The answer to a question is Yes or No: Escape and closing the box are neither. The toolkit would
+// take them for No, which can end the program.
+class GameMessage : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (!IsQuestion() || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (IsQuestion())
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool IsQuestion() const { return buttons().size() > 1; }
+};
+
 QMessageBox::StandardButton Ask(MainWindow& window, const std::string& text,
     const std::string& title, QMessageBox::StandardButtons buttons)
 {
     // The box opens over the board as it is at this moment.
     window.ShowBoard();
-    QMessageBox box(
+    GameMessage box(
         QMessageBox::NoIcon, QString::fromUtf8(title), QString::fromUtf8(text), buttons, &window);
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
