@@ -405,11 +405,15 @@ TEST_F(Window, IsPlayedByKeyboard)
     EXPECT_EQ(board.Level, 3);
     Play("key Return");
     EXPECT_EQ(Focused(), "Text1(1)");
-    QStringList order;
-    do {
-        order.push_back(Focused());
-        Play("key Tab");
-    } while (Focused() != "Text1(1)" && order.size() < 50);
+    const auto walk = [this] {
+        QStringList order;
+        do {
+            order.push_back(Focused());
+            Play("key Tab");
+        } while (Focused() != order.front() && order.size() < 50);
+        return order;
+    };
+    QStringList order = walk();
     ASSERT_EQ(order.size(), 37);
     order.erase(order.begin() + 15, order.begin() + 33); // the boxes to guess in
     EXPECT_EQ(order.join(' ').toStdString(),
@@ -435,6 +439,16 @@ TEST_F(Window, IsPlayedByKeyboard)
     answers = "y";
     Play("Text6=#1; Text7=#2; Text8=#3; Command7");
     EXPECT_EQ(Focused(), "Option1(3)");
+    // Tab leaves out what the level panel covers wholly, on a board that is still in play.
+    answers = "y";
+    Play("Command1; Text1(1); me=slanet swap=pgarde you=nimple me:1250; Command13");
+    order = walk();
+    EXPECT_EQ(order.size(), 36);
+    EXPECT_TRUE(order.contains("Word1(4)") && order.contains("Command7"));
+    EXPECT_FALSE(order.contains("Word1(1)") || order.contains("Text6(3)"));
+    Named("Word1(4)")->setFocus();
+    Play("key Left");
+    EXPECT_EQ(Focused(), "Word1(4)");
 }
 
 TEST_F(Window, SpeaksOfEveryControl)

@@ -175,8 +175,9 @@ void Paint(QWidget& widget, const Control& row)
     }
     widget.setPalette(palette);
     widget.setForegroundRole(roles.ink);
-    widget.setAutoFillBackground(
-        row.Background && (row.Is == Kind::Frame || row.Is == Kind::Label));
+    // For the backing of the level panel too: what it covers then counts as out of sight.
+    widget.setAutoFillBackground(row.Background
+        && (row.Is == Kind::Frame || row.Is == Kind::Label || row.Is == Kind::Button));
 }
 
 void Describe(QWidget& widget, const Control& row, int number)

@@ -38,8 +38,16 @@ void LetterTile::paintEvent(QPaintEvent* /*event*/)
 
 void LetterTile::StepTo(LetterTile* tile)
 {
-    if (tile != nullptr && tile->isEnabled())
+    if (tile != nullptr && tile->isEnabled() && !tile->visibleRegion().isEmpty())
         tile->setFocus(Qt::OtherFocusReason);
+}
+
+void LetterTile::StepIntoSight()
+{
+    LetterTile* tile = this;
+    while (tile != nullptr && tile->visibleRegion().isEmpty())
+        tile = tile->next_;
+    StepTo(tile);
 }
 
 void LetterTile::keyPressEvent(QKeyEvent* event)

@@ -17,6 +17,9 @@ public:
     // The letter in the box; and where the box is empty, a letter that is shown faintly in it.
     void SetLetter(const QString& letter, const QString& faint);
 
+    // From a box that something covers wholly, gives the focus to the first in sight to the right.
+    void StepIntoSight();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

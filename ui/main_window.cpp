@@ -392,6 +392,19 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
         option->click();
 }
 
+// Tab walks on past what the level panel covers wholly.
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    const QWidget* from = focusWidget();
+    bool found = false;
+    do {
+        found = QWidget::focusNextPrevChild(next);
+        if (auto* tile = dynamic_cast<LetterTile*>(focusWidget()))
+            tile->StepIntoSight();
+    } while (found && focusWidget() != from && focusWidget()->visibleRegion().isEmpty());
+    return found;
+}
+
 void MainWindow::closeEvent(QCloseEvent* /*event*/)
 {
     game_.view.EndProgram();
