@@ -469,7 +469,12 @@ TEST_F(Window, SpeaksOfEveryControl)
     EXPECT_GE(walk(walk, QAccessible::queryAccessibleInterface(&window)), 90);
     EXPECT_EQ(Spoken("SwapLetters(1)"), "Swap letter 1, red: w, not available");
     EXPECT_EQ(Spoken("MyLetters(2)"), "The computer's letter 2: l");
-    EXPECT_EQ(Spoken("Word2(5)"), "Hidden word 2, letter 5, not bought");
+    EXPECT_EQ(Spoken("Word2(5)"), "Hidden word 2, letter 5, costs 100 points");
+    const auto* words = QAccessible::queryAccessibleInterface(Named("Frame2"));
+    for (int box = 1; box <= 6; ++box)
+        EXPECT_TRUE(words->child(box - 1)
+                        ->text(QAccessible::Name)
+                        .contains(QString("1, letter %1").arg(box)));
     EXPECT_EQ(Spoken("YourScore"), "Your score: 0");
 }
 

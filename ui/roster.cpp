@@ -47,21 +47,21 @@ constexpr Control GuessRow(const char* name, int top, const char* spoken)
         .SpokenHelp = "Type a letter"};
 }
 
-// The boxes of a hidden word that are shown from the start, or the four that are for sale.
-constexpr Control WordRow(const char* name, const char* boxes, int top, const char* spoken)
+// Neighbours in a hidden word: of those shown from the start, or of the four that are for sale. The
+// boxes stand in the roster as they stand in the word, and so are read aloud in that order.
+constexpr Control WordBoxes(const char* name, const char* boxes, int top, const char* spoken)
 {
-    const bool shown = boxes[0] == '1';
+    const bool shown = boxes[0] == '1' || boxes[0] == '4';
     return {.Is = Kind::LetterTile,
         .Name = name,
         .Boxes = boxes,
         .In = "Frame2",
-        .At = {shown ? 360 : 840, top, 495, 570},
+        .At = {360 + 480 * (boxes[0] - '1'), top, 495, 570},
         .Next = {.Right = 480},
         .Font = Times(18),
         .Background = shown ? Orange : PaleOrange,
         .Spoken = spoken,
-        .SpokenWhenEmpty = ", not bought",
-        .SpokenHelp = "Buys this letter for 100 points"};
+        .SpokenWhenEmpty = ", costs 100 points"};
 }
 
 constexpr Control LevelOption(const char* box, int top, const char* caption)
@@ -231,12 +231,18 @@ constexpr Control roster[] = {
     // The hidden words.
     GameFrame(
         "Frame2", "", {3960, 1920, 3615, 4935}, "The Words (Buy Letters)", Hobbit(9.75, true)),
-    WordRow("Word1", "14", 360, "Hidden word 1, letter %1"),
-    WordRow("Word1", "2356", 360, "Hidden word 1, letter %1"),
-    WordRow("Word2", "14", 960, "Hidden word 2, letter %1"),
-    WordRow("Word2", "2356", 960, "Hidden word 2, letter %1"),
-    WordRow("Word3", "14", 1560, "Hidden word 3, letter %1"),
-    WordRow("Word3", "2356", 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word1", "1", 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word1", "23", 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word1", "4", 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word1", "56", 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word2", "1", 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word2", "23", 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word2", "4", 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word2", "56", 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word3", "1", 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word3", "23", 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word3", "4", 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word3", "56", 1560, "Hidden word 3, letter %1"),
     PlainButton("Command7", "Frame2", {360, 2160, 1935, 375}, "Make A Guess", Times(12),
         "Names all three hidden words as you have typed them"),
     PlainButton("Command10", "Frame2", {2280, 2160, 975, 375}, "Give In", Times(9.75),
