@@ -197,6 +197,7 @@ TEST_F(Window, EverythingHasItsPlaceAndNoCaptionIsClipped)
         for (const auto& [other, otherPlace] : frames)
             EXPECT_TRUE(name == other || !place.intersects(otherPlace)) << name << " " << other;
     }
+    EXPECT_TRUE(Named("Command4")->font().bold()); // in a face that has no black
     EXPECT_EQ(Named("Text1(6)")->geometry().right(), Named("SwapLetters(1)")->geometry().left());
 }
 

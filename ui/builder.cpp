@@ -285,7 +285,8 @@ QFont FontOf(const Control& row, const QWidget& widget, const QString& family, d
     const QString caption = QString::fromUtf8(row.Caption);
     const QSize room = RoomFor(row, widget);
     QFont font(family);
-    font.setBold(row.Font.Bold);
+    // The black face is heavy by itself, and what stands in for it has to be.
+    font.setBold(row.Font.Bold || row.Font.Name == Face::ArialBlack);
     for (int pixels = qRound(row.Font.Points * twipsPerPoint * pixelsPerTwip);; --pixels) {
         font.setPixelSize(std::max(pixels, 1));
         const QFontMetrics metrics(font);
