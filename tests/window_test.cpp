@@ -197,7 +197,8 @@ TEST_F(Window, EverythingHasItsPlaceAndNoCaptionIsClipped)
         for (const auto& [other, otherPlace] : frames)
             EXPECT_TRUE(name == other || !place.intersects(otherPlace)) << name << " " << other;
     }
-    EXPECT_TRUE(Named("Command4")->font().bold()); // in a face that has no black
+    EXPECT_EQ(Named("List1")->font().pixelSize(), 14); // the desktop's
+    EXPECT_TRUE(Named("Command4")->font().bold());     // in a face that has no black
     EXPECT_EQ(Named("Text1(6)")->geometry().right(), Named("SwapLetters(1)")->geometry().left());
 }
 
@@ -486,6 +487,9 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication::setStyle(QStringLiteral("fusion"));
     const QApplication application(argc, argv);
+    QFont desktop;
+    desktop.setPixelSize(14);
+    QApplication::setFont(desktop);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -278,16 +278,26 @@ QSize RoomFor(const Control& row, const QWidget& widget)
     }
 }
 
+// Pixels of the font of the table, with no regard to the room.
+double FullSize(const Lettering& font, double pixelsPerTwip)
+{
+    constexpr double twipsPerPoint = 20;
+    constexpr double twipsPerPixel = 15; // 96 pixels to the inch
+    const double twips = font.Name == Face::Plain
+        ? QFontInfo(QApplication::font()).pixelSize() * twipsPerPixel
+        : font.Points * twipsPerPoint;
+    return twips * pixelsPerTwip;
+}
+
 // The font of the table, or for this one control a smaller one that its caption fits in with.
 QFont FontOf(const Control& row, const QWidget& widget, const QString& family, double pixelsPerTwip)
 {
-    constexpr double twipsPerPoint = 20;
     const QString caption = QString::fromUtf8(row.Caption);
     const QSize room = RoomFor(row, widget);
     QFont font(family);
     // The black face is heavy by itself, and what stands in for it has to be.
     font.setBold(row.Font.Bold || row.Font.Name == Face::ArialBlack);
-    for (int pixels = qRound(row.Font.Points * twipsPerPoint * pixelsPerTwip);; --pixels) {
+    for (int pixels = qRound(FullSize(row.Font, pixelsPerTwip));; --pixels) {
         font.setPixelSize(std::max(pixels, 1));
         const QFontMetrics metrics(font);
         if (pixels <= 1 || caption.isEmpty()

@@ -41,8 +41,8 @@ enum class Face {
 };
 
 struct Lettering {
-    Face Name = Face::Plain;
-    double Points = 9;
+    Face Name = Face::Plain; // the desktop's own, in its own size
+    double Points = 0;
     bool Bold = false;
 };
 
