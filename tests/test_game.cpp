@@ -1,15 +1,13 @@
 #include "test_game.h"
 
-#include <algorithm>
 #include <fstream>
+#include <random>
 
 WordListFile::WordListFile(const std::string& bytes)
 {
-    static int made = 0;
-    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-    std::string name = test ? std::string(test->test_suite_name()) + "." + test->name() : "list";
-    std::ranges::replace(name, '/', '.');
-    path_ = std::filesystem::path(testing::TempDir()) / (name + std::to_string(++made) + ".txt");
+    // Tests run side by side, and from several builds.
+    const std::string name = "words." + std::to_string(std::random_device{}());
+    path_ = std::filesystem::path(testing::TempDir()) / (name + ".txt");
     Write(bytes);
 }
 
