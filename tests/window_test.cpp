@@ -364,6 +364,19 @@ TEST_F(Window, DrawsAtItsMomentsAlone)
         words->viewport()->rect().contains(words->visualItemRect(words->item(59)).center()));
 }
 
+TEST_F(Window, HasEdgesOnADarkDesktop)
+{
+    QApplication::setPalette(QColor(45, 45, 48));
+    for (const char* name : {"Text6(2)", "Check1", "List1"}) {
+        const QImage drawn = Named(name)->grab().toImage();
+        int lightest = 0;
+        for (int x = 0; x < 3; ++x)
+            lightest = std::max(lightest, qGray(drawn.pixel(x, drawn.height() / 2)));
+        EXPECT_GT(lightest, 100) << name;
+    }
+    QApplication::setPalette(QPalette());
+}
+
 TEST_F(Window, TakesWhatIsTypedAndCallsNoHandler)
 {
     Play(start);
@@ -484,7 +497,8 @@ TEST_F(Window, SpeaksOfEveryControl)
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) // another one shows the tests on a display
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication::setStyle(QStringLiteral("fusion"));
     const QApplication application(argc, argv);
     QFont desktop;

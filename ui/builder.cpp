@@ -159,6 +159,12 @@ QColor ColourOf(const Colour& colour)
 
 void Paint(QWidget& widget, const Control& row)
 {
+    if (row.Is == Kind::Check || row.Is == Kind::List) {
+        // The style darkens this role for their edges, and black on a dark desktop would not show.
+        QPalette palette;
+        palette.setColor(QPalette::Window, Qt::gray);
+        widget.setPalette(palette);
+    }
     if (!row.Background && !row.Text)
         return;
     const Roles roles = RolesOf(row.Is);

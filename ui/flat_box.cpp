@@ -27,9 +27,9 @@ void DrawOutline(QPainter& painter, const QRect& box, int thick, const QColor& c
 void DrawFlatBox(QWidget& widget, const FlatBox& box)
 {
     const QPalette& palette = widget.palette();
-    QColor ground = palette.color(QPalette::Active, box.ground);
+    const QColor own = palette.color(QPalette::Active, box.ground);
     QColor ink = palette.color(QPalette::Active, box.ink);
-    const QColor line = Blend(ground.value() > 127 ? Qt::black : Qt::white, ground, 0.65);
+    QColor ground = own;
     if (!widget.isEnabled()) {
         // Out of play, and still to be read, on a dark desktop too.
         ground = Blend(ground, QColor(200, 200, 200), 0.3);
@@ -40,11 +40,17 @@ void DrawFlatBox(QWidget& widget, const FlatBox& box)
 
     QPainter painter(&widget);
     painter.fillRect(widget.rect(), ground);
+    DrawEdge(painter, widget, own);
+    painter.setPen(box.faint ? Blend(ink, ground, 0.35) : ink);
+    painter.drawText(widget.rect(), Qt::AlignCenter | Qt::TextDontClip, box.text);
+}
+
+void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground)
+{
+    const QColor line = Blend(ground.value() > 127 ? Qt::black : Qt::white, ground, 0.65);
     DrawOutline(painter, widget.rect(), 1, line);
     if (widget.hasFocus())
         DrawFocusRing(painter, widget.rect());
-    painter.setPen(box.faint ? Blend(ink, ground, 0.35) : ink);
-    painter.drawText(widget.rect(), Qt::AlignCenter | Qt::TextDontClip, box.text);
 }
 
 void DrawFocusRing(QPainter& painter, const QRect& box)

@@ -21,5 +21,9 @@ struct FlatBox {
 // widget loses its colour and a focused one has a ring that shows on any colour.
 void DrawFlatBox(QWidget& widget, const FlatBox& box);
 
+// The outline of a box on this ground, and the ring where the box has the focus; for a box that
+// paints the rest itself, in its paint event.
+void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground);
+
 // The ring of the focus, just inside the box: two colours, one of which shows on any other.
 void DrawFocusRing(QPainter& painter, const QRect& box);

@@ -1,6 +1,9 @@
 #include "ui/guess_box.h"
 
+#include "ui/flat_box.h"
+
 #include <QKeyEvent>
+#include <QPainter>
 
 #include <limits>
 #include <utility>
@@ -9,6 +12,7 @@ GuessBox::GuessBox(QWidget* parent)
     : QLineEdit(parent)
 {
     setAlignment(Qt::AlignCenter);
+    setFrame(false); // the style's is as dark as the ground of a dark desktop
     setMaxLength(std::numeric_limits<int>::max());
 }
 
@@ -23,6 +27,13 @@ void GuessBox::StepTo(GuessBox* box)
     // For the reason of a Tab key the box selects its text, so that typing replaces it.
     if (box != nullptr)
         box->setFocus(Qt::TabFocusReason);
+}
+
+void GuessBox::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    DrawEdge(painter, *this, palette().color(QPalette::Base));
 }
 
 // What was typed moves on once it stands in the box.
