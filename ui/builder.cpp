@@ -230,32 +230,32 @@ void SetTabOrder(const std::vector<BuiltControl>& controls)
     }
 }
 
-// The first of the faces that the machine has; they are of one kind.
-QString Installed(std::initializer_list<const char*> faces)
+// The first of the faces that the machine has, by its list of families; they are of one kind.
+QString FirstOf(const QStringList& families, std::initializer_list<const char*> faces)
 {
     for (const char* face : faces)
-        if (QFontDatabase::hasFamily(QString::fromLatin1(face)))
+        if (families.contains(QLatin1String(face)))
             return QString::fromLatin1(face);
     return QApplication::font().family();
 }
 
-QString FamilyOf(Face face)
+QString FamilyOf(Face face, const QStringList& families)
 {
     switch (face) {
     case Face::Plain:
         break;
     case Face::TimesNewRoman:
-        return Installed({"Times New Roman", "Liberation Serif", "DejaVu Serif"});
+        return FirstOf(families, {"Times New Roman", "Liberation Serif", "DejaVu Serif"});
     case Face::HobbitSF:
-        return Installed({"Hobbit SF", "Liberation Serif", "DejaVu Serif"});
+        return FirstOf(families, {"Hobbit SF", "Liberation Serif", "DejaVu Serif"});
     case Face::BaskervilleOldFace:
-        return Installed({"Baskerville Old Face", "Liberation Serif", "DejaVu Serif"});
+        return FirstOf(families, {"Baskerville Old Face", "Liberation Serif", "DejaVu Serif"});
     case Face::ArialBlack:
-        return Installed({"Arial Black", "Liberation Sans", "DejaVu Sans"});
+        return FirstOf(families, {"Arial Black", "Liberation Sans", "DejaVu Sans"});
     case Face::NapaSF:
-        return Installed({"Napa SF", "Liberation Serif", "DejaVu Serif"});
+        return FirstOf(families, {"Napa SF", "Liberation Serif", "DejaVu Serif"});
     case Face::SansSerif:
-        return Installed({"MS Sans Serif", "Liberation Sans", "DejaVu Sans"});
+        return FirstOf(families, {"MS Sans Serif", "Liberation Sans", "DejaVu Sans"});
     }
     return QApplication::font().family();
 }
@@ -353,12 +353,14 @@ std::vector<BuiltControl> BuildControls(QWidget& window)
 
 void PlaceControls(const std::vector<BuiltControl>& controls, double pixelsPerTwip)
 {
+    // Asked for once: the machine's list of families is made anew at every question.
+    const QStringList installed = QFontDatabase::families();
     std::map<Face, QString> families;
     for (const BuiltControl& control : controls) {
         const Lettering& lettering = control.Row->Font;
         QString& family = families[lettering.Name];
         if (family.isEmpty())
-            family = FamilyOf(lettering.Name);
+            family = FamilyOf(lettering.Name, installed);
         if (control.Row->At.Width > 0)
             control.Widget->setGeometry(PlaceOf(control, pixelsPerTwip));
         control.Widget->setFont(FontOf(*control.Row, *control.Widget, family, pixelsPerTwip));
