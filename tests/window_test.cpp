@@ -366,9 +366,15 @@ TEST_F(Window, DrawsAtItsMomentsAlone)
 
 TEST_F(Window, HasEdgesOnADarkDesktop)
 {
-    QApplication::setPalette(QColor(45, 45, 48));
+    QPalette dark(QColor(45, 45, 48));
+    dark.setColor(QPalette::Base, QColor(30, 30, 32));
+    QApplication::setPalette(dark);
+    const MainWindow onDark(game);
     for (const char* name : {"Text6(2)", "Check1", "List1"}) {
-        const QImage drawn = Named(name)->grab().toImage();
+        auto* widget = onDark.findChild<QWidget*>(name);
+        QImage drawn(widget->size(), QImage::Format_RGB32);
+        drawn.fill(dark.color(QPalette::Window));
+        widget->render(&drawn, QPoint(), QRegion(), QWidget::DrawChildren);
         int lightest = 0;
         for (int x = 0; x < 3; ++x)
             lightest = std::max(lightest, qGray(drawn.pixel(x, drawn.height() / 2)));
