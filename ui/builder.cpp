@@ -351,18 +351,28 @@ std::vector<BuiltControl> BuildControls(QWidget& window)
     return controls;
 }
 
-void PlaceControls(const std::vector<BuiltControl>& controls, double pixelsPerTwip)
+void PlaceControls(std::vector<BuiltControl>& controls, double pixelsPerTwip)
 {
-    // Asked for once: the machine's list of families is made anew at every question.
-    const QStringList installed = QFontDatabase::families();
-    std::map<Face, QString> families;
-    for (const BuiltControl& control : controls) {
-        const Lettering& lettering = control.Row->Font;
-        QString& family = families[lettering.Name];
-        if (family.isEmpty())
-            family = FamilyOf(lettering.Name, installed);
+    for (BuiltControl& control : controls) {
         if (control.Row->At.Width > 0)
             control.Widget->setGeometry(PlaceOf(control, pixelsPerTwip));
+        control.Lettered = false;
+    }
+}
+
+void LetterControls(std::vector<BuiltControl>& controls, double pixelsPerTwip)
+{
+    QStringList installed; // asked for once: the list is made anew at every question
+    std::map<Face, QString> families;
+    for (BuiltControl& control : controls) {
+        if (control.Lettered || !control.Widget->isVisibleTo(control.Widget->window()))
+            continue;
+        if (installed.isEmpty())
+            installed = QFontDatabase::families();
+        QString& family = families[control.Row->Font.Name];
+        if (family.isEmpty())
+            family = FamilyOf(control.Row->Font.Name, installed);
         control.Widget->setFont(FontOf(*control.Row, *control.Widget, family, pixelsPerTwip));
+        control.Lettered = true;
     }
 }

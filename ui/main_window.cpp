@@ -221,6 +221,7 @@ void MainWindow::ShowBoard()
     for (const BoundFlag& flag : visible_)
         SetVisible(*flag.widget, *flag.flag);
     ShowLevelPanel();
+    LetterControls(controls_, pixelsPerTwip_);
     KeepFocusInPlay(focused);
 }
 
@@ -322,6 +323,7 @@ void MainWindow::FitScreen()
     pixelsPerTwip_ = scale;
     ShowLevelPanel();
     PlaceControls(controls_, scale);
+    LetterControls(controls_, scale);
 }
 
 // Holds the window at its one outer size, in whole pixels, and never smaller than its contents.
