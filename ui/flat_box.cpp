@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace {
 
 // The first colour at this share, the rest of the second.
@@ -13,13 +15,24 @@ QColor Blend(const QColor& colour, const QColor& rest, double share)
         mix(colour.blue(), rest.blue()));
 }
 
-// Filled bars stay crisp at every scale of the screen, where a pen would blur.
+// Filled bars stay crisp at every scale of the screen, where a pen would blur. They are measured in
+// whole dots of it: at a scale of 1.5 a bar of one pixel would be one dot here and two there.
 void DrawOutline(QPainter& painter, const QRect& box, int thick, const QColor& colour)
 {
-    painter.fillRect(box.left(), box.top(), box.width(), thick, colour);
-    painter.fillRect(box.left(), box.bottom() + 1 - thick, box.width(), thick, colour);
-    painter.fillRect(box.left(), box.top(), thick, box.height(), colour);
-    painter.fillRect(box.right() + 1 - thick, box.top(), thick, box.height(), colour);
+    const QTransform toDots = painter.deviceTransform();
+    const QRectF dots = toDots.mapRect(QRectF(box));
+    const QPoint first(qRound(dots.left()), qRound(dots.top()));
+    const QPoint end(qRound(dots.right()), qRound(dots.bottom()));
+    const QTransform fromDots = toDots.inverted();
+    const int bar = std::max(1, static_cast<int>(thick * toDots.m11()));
+    const auto fill = [&](int left, int top, int right, int bottom) {
+        const QRectF dotted(QPointF(left, top), QPointF(right, bottom));
+        painter.fillRect(fromDots.mapRect(dotted), colour);
+    };
+    fill(first.x(), first.y(), end.x(), first.y() + bar);
+    fill(first.x(), end.y() - bar, end.x(), end.y());
+    fill(first.x(), first.y(), first.x() + bar, end.y());
+    fill(end.x() - bar, first.y(), end.x(), end.y());
 }
 
 } // namespace
