@@ -448,7 +448,12 @@ TEST_F(Window, IsPlayedByKeyboard)
     board.Text1(2).Text = "p";
     Play("key Right; key Enter");
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Enter, Qt::KeypadModifier, "\r", true);
-    QCoreApplication::sendEvent(window.focusWidget(), &held);
+    QKeyEvent released(QEvent::KeyRelease, Qt::Key_Enter, Qt::KeypadModifier, "\r");
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Enter, Qt::KeypadModifier, "\r");
+    for (QKeyEvent* event : {&held, &released, &again}) {
+        event->setTimestamp(7);
+        QCoreApplication::sendEvent(window.focusWidget(), event);
+    }
     EXPECT_EQ(board.HeldIndex, 2);
     EXPECT_EQ(Spoken("Text1(2)"), "Your letter 2, empty, p is in your hand");
     Play("key Right; key Left; key Left; key Left; key Space");

@@ -376,10 +376,18 @@ void MainWindow::changeEvent(QEvent* event)
 // counts once. A held Space does of itself.
 bool MainWindow::eventFilter(QObject* /*watched*/, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    return key.isAutoRepeat() && IsEnter(key);
+    if (!IsEnter(key))
+        return false;
+    if (event->type() == QEvent::KeyRelease) {
+        enterReleased_ = key.timestamp();
+        return false;
+    }
+    // On X11 a key repeats by a release and a press at one moment, and not all are marked.
+    const bool sameMoment = key.timestamp() != 0 && key.timestamp() == enterReleased_;
+    return key.isAutoRepeat() || sameMoment;
 }
 
 // Enter on the level panel chooses the level that has the focus; on the chosen one it is "OK".

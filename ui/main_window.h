@@ -65,5 +65,6 @@ private:
     std::vector<BoundNumber> numbers_;
     std::vector<BoundFlag> visible_;
     std::vector<BoundFlag> enabled_;
+    quint64 enterReleased_ = 0;       // the time of the event; 0 for none
     double pixelsPerTwip_ = 1.0 / 15; // less on a screen that the window would not fit on
 };
