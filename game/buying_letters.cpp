@@ -4,6 +4,7 @@
 #include "game/game.h"
 #include "game/game_view.h"
 #include "game/numbers.h"
+#include "game/rows.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ void BuyLetter(Game& game, const std::string& hiddenWord, LetterBox& bought, Let
         game.view.ShowMessage("You can't buy letters");
         return;
     }
-    bought.Text = hiddenWord[static_cast<std::size_t>(Index) - 1];
+    bought.Text = LetterOf(hiddenWord, Index);
     guessed.Text = bought.Text;
     score.Text = PlainForm(NumberOf(score.Text) - price);
 }

@@ -4,6 +4,7 @@
 #include "game/game.h"
 #include "game/game_view.h"
 #include "game/numbers.h"
+#include "game/rows.h"
 #include "game/start_of_game.h"
 
 namespace {
@@ -11,12 +12,9 @@ namespace {
 void RevealAllLetters(Board& board)
 {
     for (int k = 1; k <= 6; ++k) {
-        const auto letter = [&board, k](int word) {
-            return std::string(1, board.HiddenWords(word)[static_cast<std::size_t>(k) - 1]);
-        };
-        board.Text6(k).Text = board.Word1(k).Text = letter(1);
-        board.Text7(k).Text = board.Word2(k).Text = letter(2);
-        board.Text8(k).Text = board.Word3(k).Text = letter(3);
+        board.Text6(k).Text = board.Word1(k).Text = LetterOf(board.HiddenWords(1), k);
+        board.Text7(k).Text = board.Word2(k).Text = LetterOf(board.HiddenWords(2), k);
+        board.Text8(k).Text = board.Word3(k).Text = LetterOf(board.HiddenWords(3), k);
     }
 }
 

@@ -46,8 +46,7 @@ void Command7_Click(Game& game)
     if (game.view.AskYesNo("Play Again", "New Game") == Answer::No)
         game.view.EndProgram();
     ReturnToLevelPanel(board);
-    for (Frame* frame :
-        {&board.Frame2, &board.Frame3, &board.Frame4, &board.Frame5, &board.Frame7, &board.Frame9})
+    for (Frame* frame : GameFrames(board))
         frame->Visible = false;
     for (LetterRow* row : {&board.Text6, &board.Text7, &board.Text8})
         Empty(*row);

@@ -98,12 +98,8 @@ void Command6_Click(Game& game)
     if (HasEmptyBox(board.Text1))
         return;
     std::string pool = Spell(board.Text1);
-    for (LetterBox& box : board.Text1) {
-        const auto place = static_cast<std::size_t>(
-            DrawNumber(game.platform, static_cast<int>(pool.size())) - 1);
-        box.Text = pool[place];
-        pool.erase(place, 1);
-    }
+    for (LetterBox& box : board.Text1)
+        box.Text = TakeLetter(game.platform, pool);
 }
 
 // "Rotate Swap Letters"

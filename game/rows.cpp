@@ -1,6 +1,7 @@
 #include "game/rows.h"
 
 #include <algorithm>
+#include <cassert>
 
 std::string Spell(const LetterRow& row)
 {
@@ -8,6 +9,12 @@ std::string Spell(const LetterRow& row)
     for (const LetterBox& box : row)
         word += box.Text;
     return word;
+}
+
+std::string LetterOf(const std::string& word, int k)
+{
+    assert(k >= 1 && static_cast<std::size_t>(k) <= word.size());
+    return {word[static_cast<std::size_t>(k) - 1]};
 }
 
 bool HasEmptyBox(const LetterRow& row)
@@ -48,4 +55,10 @@ void EnableArranging(Board& board)
     for (Button* button : ArrangingButtons(board))
         button->Enabled = true;
     Enable(board.Text1);
+}
+
+std::array<Frame*, 6> GameFrames(Board& board)
+{
+    return {
+        &board.Frame2, &board.Frame3, &board.Frame4, &board.Frame5, &board.Frame7, &board.Frame9};
 }

@@ -1,4 +1,4 @@
-// Rows of boxes taken whole, and the controls that arrange the player's row.
+// Rows of boxes, buttons and frames that the rules take together, and the letters of a word.
 #pragma once
 
 #include "game/board.h"
@@ -8,6 +8,9 @@
 
 // The texts of boxes 1 to 6, joined.
 std::string Spell(const LetterRow& row);
+
+// Letter number k of a word, counted from 1, as a box shows it.
+std::string LetterOf(const std::string& word, int k);
 
 bool HasEmptyBox(const LetterRow& row);
 bool HoldsLetters(const LetterRow& row);
@@ -21,3 +24,6 @@ void Disable(LetterRow& row);
 // with them.
 std::array<Button*, 5> ArrangingButtons(Board& board);
 void EnableArranging(Board& board);
+
+// The frames of the board, which a game shows and a right guess hides together.
+std::array<Frame*, 6> GameFrames(Board& board);

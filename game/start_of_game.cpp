@@ -93,7 +93,7 @@ void RevealLetters(Board& board)
 {
     const auto reveal = [](LetterRow& row, const std::string& word) {
         for (const int k : {1, 4})
-            row(k).Text = word[static_cast<std::size_t>(k) - 1];
+            row(k).Text = LetterOf(word, k);
     };
     reveal(board.Word1, board.HiddenWords(1));
     reveal(board.Word2, board.HiddenWords(2));
@@ -113,8 +113,7 @@ void StartGame(Game& game)
     FillCandidates(board, lexicon);
     board.Caption += "   No. Of words with these letters: " + PaddedForm(board.CandidateCount);
     RevealLetters(board);
-    for (Frame* frame :
-        {&board.Frame2, &board.Frame3, &board.Frame4, &board.Frame5, &board.Frame7, &board.Frame9})
+    for (Frame* frame : GameFrames(board))
         frame->Visible = true;
     board.Check1 = 1;
 }
@@ -162,17 +161,12 @@ void DealLetters(Game& game)
     Board& board = game.board;
     std::string pool = HiddenLetters(board);
     std::string jumbled;
-    while (!pool.empty()) {
-        const auto place = static_cast<std::size_t>(
-            DrawNumber(game.platform, static_cast<int>(pool.size())) - 1);
-        jumbled += pool[place];
-        pool.erase(place, 1);
-    }
+    while (!pool.empty())
+        jumbled += TakeLetter(game.platform, pool);
     for (int i = 1; i <= 6; ++i) {
-        const auto place = static_cast<std::size_t>(i) - 1;
-        board.MyLetters(i).Text = jumbled[place];
-        board.Text1(i).Text = jumbled[place + wordLength];
-        board.SwapLetters(i).Text = jumbled[place + 2 * wordLength];
+        board.MyLetters(i).Text = LetterOf(jumbled, i);
+        board.Text1(i).Text = LetterOf(jumbled, i + 6);
+        board.SwapLetters(i).Text = LetterOf(jumbled, i + 12);
     }
     board.HeldLetter.clear();
     board.HeldIndex = 0;
