@@ -106,7 +106,7 @@ Part Rows(const char* key, std::vector<LetterRow Board::*> rows)
         }};
 }
 
-Part Number(const char* key, NumberBox Board::*box)
+Part Number(const char* key, NumberBox Board::* box)
 {
     return {key, [box](const Board& board) { return Replaced((board.*box).Text, ' ', '_'); },
         [box](Board& board, const std::string& text) {
@@ -114,7 +114,7 @@ Part Number(const char* key, NumberBox Board::*box)
         }};
 }
 
-Part Count(const char* key, std::int16_t Board::*count)
+Part Count(const char* key, std::int16_t Board::* count)
 {
     return {key, [count](const Board& board) { return std::to_string(board.*count); },
         [count](Board& board, const std::string& text) {

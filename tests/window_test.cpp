@@ -503,8 +503,8 @@ TEST_F(Window, SpeaksOfEveryControl)
     const auto* words = QAccessible::queryAccessibleInterface(Named("Frame2"));
     for (int box = 1; box <= 6; ++box)
         EXPECT_TRUE(words->child(box - 1)
-                        ->text(QAccessible::Name)
-                        .contains(QString("1, letter %1").arg(box)));
+                ->text(QAccessible::Name)
+                .contains(QString("1, letter %1").arg(box)));
     EXPECT_EQ(Spoken("YourScore"), "Your score: 0");
 }
 

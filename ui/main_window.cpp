@@ -32,7 +32,7 @@ constexpr double fullScale = 1.0 / 15; // pixels to the twip, at 96 dots to the 
 
 struct RowField {
     const char* control;
-    LetterRow Board::*row;
+    LetterRow Board::* row;
 };
 constexpr RowField rowFields[] = {
     {"Text1", &Board::Text1},
@@ -49,7 +49,7 @@ constexpr RowField rowFields[] = {
 
 struct NumberField {
     const char* control;
-    NumberBox Board::*box;
+    NumberBox Board::* box;
 };
 constexpr NumberField numberFields[] = {
     {"YourScore", &Board::YourScore},
@@ -59,7 +59,7 @@ constexpr NumberField numberFields[] = {
 
 struct VisibleField {
     const char* control;
-    Frame Board::*frame;
+    Frame Board::* frame;
 };
 constexpr VisibleField visibleFields[] = {
     {"Frame2", &Board::Frame2},
@@ -73,7 +73,7 @@ constexpr VisibleField visibleFields[] = {
 
 struct EnabledField {
     const char* control;
-    Button Board::*button;
+    Button Board::* button;
 };
 constexpr EnabledField enabledFields[] = {
     {"Command4", &Board::Command4},
