@@ -57,8 +57,8 @@ void MakeControls(QWidget& window)
 {
     std::map<std::string_view, QWidget*> frames{{"", &window}};
     for (const Control& row : Roster()) {
-        const int boxes = std::max(1, static_cast<int>(std::string_view(row.Boxes).size()));
-        for (int box = 0; box < boxes; ++box) {
+        const auto [first, last] = row.Boxes.value_or(BoxNumbers());
+        for (int box = 0; box <= last - first; ++box) {
             QWidget* widget = MakeWidget(frames.at(row.In), row);
             widget->setObjectName(QString::fromUtf8(row.Name));
             widget->setGeometry(PlaceOf(row, box));

@@ -27,7 +27,7 @@ constexpr Lettering Hobbit(double points, bool bold)
     return {Face::HobbitSF, points, bold};
 }
 
-constexpr const char* Six = "123456";
+constexpr BoxNumbers Six{1, 6};
 constexpr const char* SwapHint = "Click a yellow box, then a lilac box to swap.";
 constexpr const char* GuessHint = "Enter your guess in these boxes.";
 constexpr const char* SpokenSwapHelp = "Exchanges this letter with the one in your hand";
@@ -49,14 +49,14 @@ constexpr Control GuessRow(const char* name, int top, const char* spoken)
 
 // Neighbours in a hidden word: of those shown from the start, or of the four that are for sale. The
 // boxes stand in the roster as they stand in the word, and so are read aloud in that order.
-constexpr Control WordBoxes(const char* name, const char* boxes, int top, const char* spoken)
+constexpr Control WordBoxes(const char* name, BoxNumbers boxes, int top, const char* spoken)
 {
-    const bool shown = boxes[0] == '1' || boxes[0] == '4';
+    const bool shown = boxes.First == 1 || boxes.First == 4;
     return {.Is = Kind::LetterTile,
         .Name = name,
         .Boxes = boxes,
         .In = "Frame2",
-        .At = {360 + 480 * (boxes[0] - '1'), top, 495, 570},
+        .At = {360 + 480 * (boxes.First - 1), top, 495, 570},
         .Next = {.Right = 480},
         .Font = Times(18),
         .Background = shown ? Orange : PaleOrange,
@@ -64,11 +64,11 @@ constexpr Control WordBoxes(const char* name, const char* boxes, int top, const 
         .SpokenWhenEmpty = ", costs 100 points"};
 }
 
-constexpr Control LevelOption(const char* box, int top, const char* caption)
+constexpr Control LevelOption(int box, int top, const char* caption)
 {
     return {.Is = Kind::Option,
         .Name = "Option1",
-        .Boxes = box,
+        .Boxes = BoxNumbers{box, box},
         .In = "Frame1",
         .At = {240, top, 855, 255},
         .Caption = caption,
@@ -97,7 +97,7 @@ constexpr Control GameFrame(
 }
 
 constexpr Control CentredLabel(const char* name, const char* in, Place at, const char* caption,
-    Lettering font, const char* boxes = "")
+    Lettering font, std::optional<BoxNumbers> boxes = {})
 {
     return {.Is = Kind::Label,
         .Name = name,
@@ -140,7 +140,7 @@ constexpr Control roster[] = {
         .SpokenHelp = "Takes this letter in your hand, or puts the one in your hand here"},
     {.Is = Kind::LetterTile,
         .Name = "SwapLetters",
-        .Boxes = "1",
+        .Boxes = BoxNumbers{1, 1},
         .In = "Frame4",
         .At = {3000, 1200, 495, 525},
         .Font = Times(18),
@@ -218,7 +218,7 @@ constexpr Control roster[] = {
         .Text = PaleOrange},
     {.Is = Kind::LetterTile,
         .Name = "SwapLetters",
-        .Boxes = "23456",
+        .Boxes = BoxNumbers{2, 6},
         .In = "Frame3",
         .At = {360, 1200, 495, 495},
         .Next = {.Right = 600},
@@ -231,18 +231,18 @@ constexpr Control roster[] = {
     // The hidden words.
     GameFrame(
         "Frame2", "", {3960, 1920, 3615, 4935}, "The Words (Buy Letters)", Hobbit(9.75, true)),
-    WordBoxes("Word1", "1", 360, "Hidden word 1, letter %1"),
-    WordBoxes("Word1", "23", 360, "Hidden word 1, letter %1"),
-    WordBoxes("Word1", "4", 360, "Hidden word 1, letter %1"),
-    WordBoxes("Word1", "56", 360, "Hidden word 1, letter %1"),
-    WordBoxes("Word2", "1", 960, "Hidden word 2, letter %1"),
-    WordBoxes("Word2", "23", 960, "Hidden word 2, letter %1"),
-    WordBoxes("Word2", "4", 960, "Hidden word 2, letter %1"),
-    WordBoxes("Word2", "56", 960, "Hidden word 2, letter %1"),
-    WordBoxes("Word3", "1", 1560, "Hidden word 3, letter %1"),
-    WordBoxes("Word3", "23", 1560, "Hidden word 3, letter %1"),
-    WordBoxes("Word3", "4", 1560, "Hidden word 3, letter %1"),
-    WordBoxes("Word3", "56", 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word1", {1, 1}, 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word1", {2, 3}, 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word1", {4, 4}, 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word1", {5, 6}, 360, "Hidden word 1, letter %1"),
+    WordBoxes("Word2", {1, 1}, 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word2", {2, 3}, 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word2", {4, 4}, 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word2", {5, 6}, 960, "Hidden word 2, letter %1"),
+    WordBoxes("Word3", {1, 1}, 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word3", {2, 3}, 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word3", {4, 4}, 1560, "Hidden word 3, letter %1"),
+    WordBoxes("Word3", {5, 6}, 1560, "Hidden word 3, letter %1"),
     PlainButton("Command7", "Frame2", {360, 2160, 1935, 375}, "Make A Guess", Times(12),
         "Names all three hidden words as you have typed them"),
     PlainButton("Command10", "Frame2", {2280, 2160, 975, 375}, "Give In", Times(9.75),
@@ -258,9 +258,9 @@ constexpr Control roster[] = {
         .Caption = "Enter 3 Word Guess Here",
         .Font = Times(12),
         .Text = Red},
-    CentredLabel("Label4", "Frame8", {120, 360, 375, 375}, "1)", Times(14.25), "0"),
-    CentredLabel("Label4", "Frame8", {120, 840, 375, 375}, "2)", Times(14.25), "1"),
-    CentredLabel("Label4", "Frame8", {120, 1320, 375, 375}, "3)", Times(14.25), "2"),
+    CentredLabel("Label4", "Frame8", {120, 360, 375, 375}, "1)", Times(14.25), BoxNumbers{0, 0}),
+    CentredLabel("Label4", "Frame8", {120, 840, 375, 375}, "2)", Times(14.25), BoxNumbers{1, 1}),
+    CentredLabel("Label4", "Frame8", {120, 1320, 375, 375}, "3)", Times(14.25), BoxNumbers{2, 2}),
     GuessRow("Text6", 360, "Guess at word 1, letter %1"),
     GuessRow("Text7", 840, "Guess at word 2, letter %1"),
     GuessRow("Text8", 1320, "Guess at word 3, letter %1"),
@@ -300,12 +300,12 @@ constexpr Control roster[] = {
         .Font = Times(12),
         .Background = Brick,
         .Text = PaleOrange},
-    LevelOption("1", 360, "Level 1"),
-    LevelOption("2", 720, "Level 2"),
-    LevelOption("3", 1080, "Level 3"),
-    LevelOption("4", 1440, "Level 4"),
-    LevelOption("5", 1800, "Level 5"),
-    LevelOption("6", 2160, "Level 6"),
+    LevelOption(1, 360, "Level 1"),
+    LevelOption(2, 720, "Level 2"),
+    LevelOption(3, 1080, "Level 3"),
+    LevelOption(4, 1440, "Level 4"),
+    LevelOption(5, 1800, "Level 5"),
+    LevelOption(6, 2160, "Level 6"),
     {.Is = Kind::Button,
         .Name = "Command1",
         .In = "Frame1",

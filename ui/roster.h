@@ -30,6 +30,11 @@ struct Step {
     int Down = 0;
 };
 
+struct BoxNumbers {
+    int First = 0;
+    int Last = 0;
+};
+
 enum class Face {
     Plain,
     TimesNewRoman,
@@ -55,9 +60,9 @@ struct Colour {
 struct Control {
     Kind Is;
     const char* Name;
-    const char* Boxes = ""; // the numbers of its boxes, one digit each; "" for a single control
-    const char* In = "";    // the frame it stands in; "" for the window itself
-    Place At = {};          // of the first of its boxes; the others follow by the step
+    std::optional<BoxNumbers> Boxes = {}; // those of this line; none for a single control
+    const char* In = "";                  // the frame it stands in; "" for the window itself
+    Place At = {}; // of the first of its boxes; the others follow by the step
     Step Next = {};
     const char* Caption = "";
     Lettering Font = {};

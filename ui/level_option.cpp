@@ -1,0 +1,23 @@
+#include "ui/level_option.h"
+
+#include "ui/keys.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+// The style marks the focus too faintly to be seen on brick.
+void LevelOption::paintEvent(QPaintEvent* event)
+{
+    QRadioButton::paintEvent(event);
+    if (hasFocus())
+        QPainter(this).fillRect(0, height() - 2, width(), 2, palette().color(foregroundRole()));
+}
+
+// Some desktops have Enter click an option; here it is for the window, which may start.
+void LevelOption::keyPressEvent(QKeyEvent* event)
+{
+    if (IsEnter(*event))
+        event->ignore();
+    else
+        QRadioButton::keyPressEvent(event);
+}

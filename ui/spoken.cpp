@@ -1,0 +1,38 @@
+#include "ui/spoken.h"
+
+#include "ui/controls.h"
+#include "ui/roster.h"
+
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString WithNumber(const char* words, int number)
+{
+    const QString text = QString::fromUtf8(words);
+    return text.contains(u"%1") ? text.arg(number) : text;
+}
+
+} // namespace
+
+void GiveWords(const BuiltControl& control)
+{
+    const Control& row = *control.Row;
+    const char* name = *row.Spoken == '\0' ? row.Caption : row.Spoken;
+    control.Widget->setAccessibleName(WithNumber(name, control.Number));
+    control.Widget->setAccessibleDescription(QString::fromUtf8(row.SpokenHelp));
+    control.Widget->setToolTip(QString::fromUtf8(row.ToolTip));
+}
+
+void NameBox(const BuiltControl& control, const QString& text, const QString& faint, bool enabled)
+{
+    QString words = WithNumber(control.Row->Spoken, control.Number);
+    words += text.isEmpty() ? QString::fromUtf8(control.Row->SpokenWhenEmpty) : u": "_s + text;
+    if (!faint.isEmpty())
+        words += u", "_s + faint + u" is in your hand"_s;
+    if (!enabled)
+        words += u", not available"_s;
+    control.Widget->setAccessibleName(words);
+}

@@ -1,0 +1,35 @@
+#include "ui/used_words_list.h"
+
+#include "ui/flat_box.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+// Words come one at a time to a list that can be long, so what is there already stays.
+void UsedWordsList::SetWords(const std::vector<std::string>& words)
+{
+    const auto shown = static_cast<std::size_t>(count());
+    std::size_t same = 0;
+    while (same < std::min(shown, words.size())
+        && item(static_cast<int>(same))->text() == QString::fromUtf8(words[same]))
+        ++same;
+    if (same == shown && same == words.size())
+        return;
+    if (same < shown) {
+        clear();
+        same = 0;
+    }
+    for (; same < words.size(); ++same)
+        addItem(QString::fromUtf8(words[same]));
+    scrollToBottom();
+}
+
+// The style marks the focus on a word of the list, and an empty list has none.
+void UsedWordsList::paintEvent(QPaintEvent* event)
+{
+    QListWidget::paintEvent(event);
+    QPainter painter(viewport());
+    if (hasFocus())
+        DrawFocusRing(painter, viewport()->rect());
+}

@@ -1,0 +1,17 @@
+// The list of used words. It follows the newest word, and shows the focus while it is empty too.
+#pragma once
+
+#include <QListWidget>
+
+#include <string>
+#include <vector>
+
+class UsedWordsList : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+    void SetWords(const std::vector<std::string>& words);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
