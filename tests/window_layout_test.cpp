@@ -1,0 +1,92 @@
+// Where everything stands in the window, and what it looks like.
+#include "window_fixture.h"
+
+#include "ui/roster.h"
+
+#include <QWindow>
+
+namespace {
+
+TEST_F(Window, EverythingHasItsPlaceAndNoCaptionIsClipped)
+{
+    Play(start);
+    ASSERT_EQ(window.frameSize(), QSize(664, 499));
+    std::map<std::string, QRect> frames;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const std::string name = widget->objectName().toStdString();
+        if (name.empty() || name.starts_with("qt_") || name.starts_with("Command2"))
+            continue;
+        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+        EXPECT_TRUE(window.rect().contains(place)) << name;
+        EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
+        if (widget->parentWidget() == &window && name != "Frame1")
+            frames[name] = place;
+        if (const QString caption = widget->property("text").toString(); caption.size() > 1) {
+            const QFontMetrics metrics(widget->font());
+            EXPECT_LE(metrics.horizontalAdvance(caption), widget->width()) << name;
+            EXPECT_GE(widget->font().pixelSize(), 9) << name;
+        }
+    }
+    ASSERT_EQ(frames.size(), 6U);
+    for (const auto& [left, right] :
+        {std::pair{"Frame2", "Frame3"}, {"Frame4", "Frame5"}, {"Frame7", "Frame9"}}) {
+        EXPECT_EQ(frames[left].left(), frames[right].left());
+        EXPECT_EQ(frames[left].width(), frames[right].width());
+    }
+    for (const auto& [name, place] : frames) {
+        EXPECT_LE(place.right() + 1, ReachRight / 15) << name;
+        EXPECT_LE(place.bottom() + 1, ReachDown / 15) << name;
+        for (const auto& [other, otherPlace] : frames)
+            EXPECT_TRUE(name == other || !place.intersects(otherPlace)) << name << " " << other;
+    }
+    EXPECT_EQ(Named("List1")->font().pixelSize(), 14); // the desktop's
+    EXPECT_TRUE(Named("Command4")->font().bold());     // in a face that has no black
+    EXPECT_EQ(Named("Text1(6)")->geometry().right(), Named("SwapLetters(1)")->geometry().left());
+}
+
+TEST_F(Window, HoldsItsSize)
+{
+    // The panel stands where it was centred on the window as first built.
+    EXPECT_EQ(Named("Frame1")->pos(), QPoint(294, 144));
+    const QPoint panel = Named("Frame1")->pos();
+    for (const QSize size : {QSize(900, 700), QSize(300, 200)}) {
+        window.resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window.frameSize(), QSize(664, 499));
+        EXPECT_EQ(board.WindowWidth, 664 * 15);
+        EXPECT_EQ(board.WindowHeight, 499 * 15);
+    }
+    // A window manager that gives another size all the same is not fought.
+    window.showMinimized();
+    window.showMaximized();
+    window.showNormal();
+    window.windowHandle()->resize(900, 700);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(board.WindowWidth, window.frameSize().width() * 15);
+    EXPECT_EQ(Named("Frame1")->pos(), panel);
+}
+
+TEST_F(Window, DrawsEdgesThatCanBeSeen)
+{
+    // At a scale that puts pixels between the dots of the screen a line is one dot all the same.
+    QImage box(Named("Word1(2)")->size() * 1.5, QImage::Format_RGB32);
+    box.setDevicePixelRatio(1.5);
+    Named("Word1(2)")->render(&box);
+    for (const int y : {0, box.height() - 1})
+        EXPECT_NE(box.pixel(20, y), box.pixel(20, std::abs(y - 1))) << y;
+
+    QPalette dark(QColor(45, 45, 48));
+    dark.setColor(QPalette::Base, QColor(30, 30, 32));
+    QApplication::setPalette(dark);
+    const MainWindow onDark(game);
+    for (const char* name : {"Text6(2)", "Check1", "List1"}) {
+        auto* widget = onDark.findChild<QWidget*>(name);
+        QImage drawn(widget->size(), QImage::Format_RGB32);
+        drawn.fill(dark.color(QPalette::Window));
+        widget->render(&drawn, QPoint(), QRegion(), QWidget::DrawChildren);
+        EXPECT_GT(qGray(drawn.pixel(0, drawn.height() / 2)), 100) << name;
+    }
+    QApplication::setPalette(QPalette());
+}
+
+} // namespace
