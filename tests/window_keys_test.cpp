@@ -1,6 +1,8 @@
 // Typing, keys and the focus.
 #include "window_fixture.h"
 
+#include "ui/roster.h"
+
 #include <QLineEdit>
 
 namespace {
@@ -53,15 +55,23 @@ TEST_F(Window, IsPlayedByKeyboard)
         do {
             order.push_back(Focused());
             Play("key Tab");
-        } while (Focused() != order.front() && order.size() < 50);
+        } while (Focused() != order.front() && order.size() < 99);
         return order;
     };
+    // Every box to guess in is a stop, and of a row to click only the first.
+    QStringList stops;
+    for (const QString name : TabOrder()) {
+        if (Named(name + "(1)") == nullptr)
+            stops.push_back(name);
+        else if (Named<QLineEdit>(name + "(1)") == nullptr)
+            stops.push_back(name + "(1)");
+        else
+            for (int box = 1; box <= 6; ++box)
+                stops.push_back(QString("%1(%2)").arg(name).arg(box));
+    }
+    stops.removeIf([this](const QString& name) { return !Named(name)->isVisible(); });
     QStringList order = walk();
-    ASSERT_EQ(order.size(), 37);
-    order.erase(order.begin() + 15, order.begin() + 33); // the boxes to guess in
-    EXPECT_EQ(order.join(' ').toStdString(),
-        "Text1(1) Command4 Command6 Command5 Command16 Command15 Command9 Text2(1) SwapLetters(1) "
-        "Command3 Command13 Command14 Word1(1) Word2(1) Word3(1) Command7 Command10 Check1 List1");
+    EXPECT_EQ(order.join(' ').toStdString(), stops.join(' ').toStdString());
 
     board.Text1(2).Text = "p";
     Play("key Right; key Enter");
@@ -91,7 +101,6 @@ TEST_F(Window, IsPlayedByKeyboard)
     answers = "y";
     Play("Command1; Text1(1); me=slanet swap=pgarde you=nimple me:1250; Command13");
     order = walk();
-    EXPECT_EQ(order.size(), 36);
     EXPECT_TRUE(order.contains("Word1(4)") && order.contains("Command7"));
     EXPECT_FALSE(order.contains("Word1(1)") || order.contains("Text6(3)"));
     Named("Word1(4)")->setFocus();
