@@ -13,8 +13,14 @@ Window::Window()
     QObject::connect(&answerer, &QTimer::timeout, &answerer, [this] { AnswerMessage(); });
     answerer.start(0);
     window.show();
-    QApplication::setActiveWindow(&window);
+    Activate();
     QCoreApplication::processEvents();
+}
+
+void Window::Activate()
+{
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
 void Window::Click(const QString& name)
@@ -29,7 +35,7 @@ void Window::Click(const QString& name)
 void Window::Play(const QString& steps)
 {
     for (const QString& step : steps.split("; ")) {
-        QApplication::setActiveWindow(&window); // as it is again after a message
+        Activate(); // as it is again after a message
         if (step.startsWith("key "))
             QTest::keySequence(window.focusWidget(), QKeySequence(step.mid(4)));
         else if (step.startsWith("Text") && step.contains('='))

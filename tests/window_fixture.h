@@ -81,6 +81,7 @@ protected:
     std::string State() const;
 
 private:
+    void Activate();
     void Type(const QString& row, const QString& text);
     void AnswerMessage();
 };

@@ -40,7 +40,7 @@ public:
     // One event; then the board keeps its rules, and the window shows it.
     void Act()
     {
-        QApplication::setActiveWindow(&window_);
+        window_.activateWindow();
         const int kind = Number(100);
         if (kind < 65) {
             const QWidget& button = *buttons_[Number(buttons_.size())];
