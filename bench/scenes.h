@@ -4,7 +4,7 @@
 #include "game/board.h"
 #include "game/game.h"
 #include "game/game_view.h"
-#include "tools/self_play/seeded_platform.h"
+#include "headless/headless_platform.h"
 
 #include <filesystem>
 #include <memory>
@@ -52,10 +52,10 @@ public:
 };
 
 // The clock stands still, so that every start of a game is the same one.
-class SameGameAgain : public SeededPlatform {
+class SameGameAgain : public HeadlessPlatform {
 public:
     explicit SameGameAgain(std::uint32_t seed)
-        : SeededPlatform(seed)
+        : HeadlessPlatform(seed)
         , seed_(static_cast<float>(seed))
     {
     }

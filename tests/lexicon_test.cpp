@@ -1,8 +1,11 @@
 // The word list: what a record is, and the passes over the list.
 
+#include "headless/headless_platform.h"
+#include "headless/word_list_file.h"
 #include "lexicon/lexicon_file.h"
 #include "lexicon/passes.h"
-#include "test_game.h"
+
+#include <gtest/gtest.h>
 
 #include <filesystem>
 

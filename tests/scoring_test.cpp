@@ -2,8 +2,12 @@
 
 #include "game/scoring.h"
 
-#include "board_text.h"
+#include "game/board.h"
 #include "game/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
 
 namespace {
 

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "game/board.h"
-#include "test_game.h"
+#include "game/game.h"
+#include "headless/board_text.h"
+#include "headless/word_list_file.h"
 #include "ui/main_window.h"
 #include "ui/qt_view.h"
 #include "ui/system_platform.h"
@@ -11,7 +13,10 @@
 #include <QTest>
 #include <QTimer>
 
+#include <gtest/gtest.h>
+
 #include <functional>
+#include <memory>
 
 // Chance that is the same in every run, with a hook into the work between two paintings.
 class SteadyPlatform : public SystemPlatform {

@@ -1,8 +1,11 @@
 // A monkey at the real window: clicks, keys and answers without sense, from a seed. The number of
 // its events can be raised with QUORVEL_MONKEY_EVENTS.
 
-#include "test_game.h"
-#include "tools/self_play/seeded_platform.h"
+#include "game/board.h"
+#include "game/game.h"
+#include "headless/board_check.h"
+#include "headless/board_text.h"
+#include "headless/headless_platform.h"
 #include "ui/main_window.h"
 #include "ui/qt_view.h"
 
@@ -12,6 +15,8 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+
+#include <gtest/gtest.h>
 
 #include <random>
 
@@ -58,7 +63,7 @@ public:
                     + board.HiddenWords(3));
         }
         if (board.CandidateCount > 0) {
-            ASSERT_TRUE(BoardIsOk(board));
+            ASSERT_EQ(FindFault(board), "") << Line(board);
         }
         for (int box = 1; box <= 6; ++box)
             ASSERT_EQ(ShownIn(QString("Text1(%1)").arg(box)), board.Text1(box).Text);
@@ -120,7 +125,7 @@ private:
     }
 
     std::minstd_rand chance_;
-    SeededPlatform platform_;
+    HeadlessPlatform platform_;
     Game game_{board, view, platform_, QUORVEL_WORD_LIST};
     MainWindow window_{game_};
     QTimer answerer_;

@@ -1,169 +1,187 @@
 #include "tools/search/sessions.h"
 
 #include "game/clicks.h"
-#include "tools/search/event_player.h"
-#include "tools/self_play/seeded_platform.h"
+#include "headless/fingerprint.h"
+#include "headless/script.h"
 
+#include <algorithm>
 #include <array>
-#include <fstream>
 #include <iterator>
-#include <random>
-#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
-using Chance = std::mt19937;
-using Words = std::vector<std::string>; // of a session: list, seed, events
+constexpr int eventsOfSession = 1000;
 
-// The session that is being played, for a crash to leave behind.
-constexpr const char* crashScript = "session_under_way.txt";
-
-const Words smallLists[] = {
-    {"planet", "garden", "simple"},           // often no third first letter is left to draw
-    {"aaaaaa", "baaaaa", "caaaaa", "caaaaa"}, // twelve equal letters can face the computer
-    {"stream", "master", "tamers", "altars", "remast", "artsal"}, // the same letters again
-    {"gardens", "planet", "garden", "simple", "eaglet", "impels", "nested", "letter", "simple"},
-    {"", "planet", "garden", "simple", "******", "eaglet", "gender", "impels", "nested", "simple"},
+const char* const smallLists[] = {
+    "list planet garden simple",                      // often no third first letter is left to draw
+    "list aaaaaa baaaaa caaaaa caaaaa",               // twelve equal letters can face the computer
+    "list stream master tamers altars remast artsal", // the same letters again
+    "list gardens planet garden simple eaglet impels nested letter simple",
+    "list _ planet garden simple ****** eaglet gender impels nested simple",
 };
 
-SearchResult Play(const SessionLists& lists, const Words& session)
+// Draws of one event or one session. Each has its own, so that a change of one moves no other.
+class Chance {
+public:
+    Chance(std::uint32_t seed, int session, int event)
+        : state_(Spread(Spread(Spread(seed) + static_cast<std::uint64_t>(session))
+              + static_cast<std::uint64_t>(event)))
+    {
+    }
+
+    // 0 to below the count.
+    int Below(int count)
+    {
+        state_ = Spread(state_ + 1);
+        return static_cast<int>((state_ >> 33) % static_cast<std::uint64_t>(count));
+    }
+
+    // Every control has a lot, and the highest wins: a new control takes events from the others and
+    // leaves the rest as they were.
+    const Click& DrawClick()
+    {
+        state_ = Spread(state_ + 1);
+        return *std::ranges::max_element(Clicks(), {}, [this](const Click& click) {
+            Fingerprint name;
+            name.Add(click.Control);
+            return Spread(state_ ^ name.Value());
+        });
+    }
+
+private:
+    static std::uint64_t Spread(std::uint64_t bits)
+    {
+        for (const int shift : {32, 29, 32})
+            bits = (bits ^ (bits >> shift)) * 0x9E3779B97F4A7C15;
+        return bits;
+    }
+
+    std::uint64_t state_;
+};
+
+struct Session {
+    std::string header;
+    std::vector<std::string> events;
+
+    std::string Text() const
+    {
+        std::string text = header + "do";
+        for (const std::string& event : events)
+            text += " " + event;
+        return text + "\n";
+    }
+};
+
+std::string DrawTyping(Chance& chance, const std::string& box)
 {
-    SeededPlatform platform(static_cast<std::uint32_t>(std::stoul(session.at(1))));
-    EventPlayer player(lists.Path(std::stoul(session.at(0))), platform);
-    std::string fault;
-    alarm(20); // nothing keeps the player waiting
-    for (std::size_t at = 2; at < session.size() && fault.empty(); ++at)
-        fault = player.Play(session[at]);
-    alarm(0);
-    return {fault, player.counts};
+    std::string text;
+    for (int size = chance.Below(40) == 0 ? 5000 : chance.Below(4); size > 0; --size)
+        text += static_cast<char>('!' + chance.Below(222));
+    return "Text" + std::to_string(6 + chance.Below(3)) + box + "=" + text;
 }
 
-// Plays in a process of its own, so that a crash or a hang shrinks like any fault.
-bool Fails(const SessionLists& lists, const Words& session)
+// A patient player neither gives in nor knows the words.
+std::string DrawEvent(Chance& chance, bool patient)
 {
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(Play(lists, session).fault.empty() ? 0 : 1);
-    int status = 0;
-    waitpid(child, &status, 0);
-    return status != 0;
+    const std::string box = ":" + std::to_string(1 + chance.Below(6));
+    const int kind = chance.Below(40);
+    if (kind == 0)
+        return "Check1=" + std::to_string(chance.Below(2));
+    if (kind == 1)
+        return patient ? "yes" : "right";
+    if (kind == 2)
+        return chance.Below(3) == 0 && !patient ? "no" : "yes";
+    if (kind == 3)
+        return DrawTyping(chance, box);
+    const char* const often[] = {"Text1", "Text1", "Text2", "Text2", "SwapLetters", "Command1"};
+    const Click& click
+        = kind < 13 ? *FindClick(often[chance.Below(std::size(often))]) : chance.DrawClick();
+    return std::string(click.Control) + (click.Boxes > 0 ? box : "");
 }
 
-std::string Joined(const Words& words)
+// Half of the sessions are on the game's own list. In some words are rare, in some the rule.
+Session DrawSession(std::uint32_t seed, int number)
 {
-    std::string line;
-    for (const std::string& word : words)
-        line += word + " ";
-    return line;
-}
-
-// Leaves out whatever the fault does not need: halves first, in the end single events.
-Words Shrink(const SessionLists& lists, Words session)
-{
-    for (std::size_t size = session.size() / 2; size > 0; size /= 2) {
-        for (std::size_t at = 2; at < session.size();) {
-            Words fewer(session.begin(), session.begin() + static_cast<std::ptrdiff_t>(at));
-            for (std::size_t behind = at + size; behind < session.size(); ++behind)
-                fewer.push_back(session[behind]);
-            if (Fails(lists, fewer))
-                session = fewer;
-            else
-                at += size;
-        }
+    Chance chance(seed, number, 0);
+    Session session{"check\n", {}};
+    if (chance.Below(2) == 0)
+        session.header += smallLists[chance.Below(std::size(smallLists))] + std::string("\n");
+    session.header += "seed " + std::to_string(chance.Below(1 << 24)) + "\n";
+    const int wordsInHundred = std::array{2, 10, 70}[static_cast<std::size_t>(chance.Below(3))];
+    const bool patient = chance.Below(2) == 0;
+    for (int event = 1; event <= eventsOfSession; ++event) {
+        Chance own(seed, number, event);
+        const bool waits = own.Below(8) == 0;
+        std::string drawn = DrawEvent(own, patient);
+        if (own.Below(100) < wordsInHundred)
+            drawn = "word:" + std::to_string(own.Below(1000));
+        else if (event % 100 == 1)
+            drawn = "Option1:" + std::to_string(1 + own.Below(6));
+        if (drawn == "Command10" && (patient || own.Below(4) != 0))
+            session.events.emplace_back("no");
+        session.events.push_back((waits ? "~" : "") + drawn);
     }
     return session;
 }
 
-std::string DrawEvent(Chance& chance, bool patient)
+std::string FaultOf(const std::filesystem::path& wordList, const Session& session) noexcept
 {
-    const std::string box = ":" + std::to_string(chance() % 6 + 1);
-    const std::string guess = "Text" + std::to_string(chance() % 3 + 6) + box + "=";
-    std::string text(chance() % 40 == 0 ? 5000 : chance() % 4, ' ');
-    switch (chance() % 40) {
-    case 0:
-        return "Check1=" + std::to_string(chance() % 2);
-    case 1:
-        return patient ? "yes" : "right";
-    case 2:
-        return chance() % 3 == 0 && !patient ? "no" : "yes";
-    case 3:
-        for (char& letter : text)
-            letter = static_cast<char>('!' + chance() % 222);
-        return guess + text;
-    default:
-        const char* const often[] = {"Text1", "Text1", "Text2", "Text2", "SwapLetters", "Command1"};
-        const std::string control(chance() % 4 == 0 ? often[chance() % std::size(often)]
-                                                    : Clicks()[chance() % Clicks().size()].Control);
-        return FindClick(control)->Boxes == 0 ? control : control + box;
-    }
+    HeadlessGame game(wordList);
+    RunScript(game, session.Text());
+    return game.FirstFault();
 }
 
-// Half of the sessions are on the game's own list. In some words are rare, in some the rule; a
-// patient player neither gives in nor knows the words.
-Words DrawSession(Chance& chance)
+// Plays in a process of its own and returns its fault, "" when there is none.
+std::string Play(const std::filesystem::path& wordList, const Session& session)
 {
-    const std::size_t list = chance() % 2 == 0 ? 0 : chance() % std::size(smallLists) + 1;
-    const unsigned wordsInHundred = std::array{2U, 10U, 70U}[chance() % 3];
-    const bool patient = chance() % 2 == 0;
-    Words session{std::to_string(list), std::to_string(chance() >> 8)};
-    for (int event = 0; event < 1000; ++event) {
-        std::string drawn = DrawEvent(chance, patient);
-        if (chance() % 100 < wordsInHundred)
-            drawn = "word:" + std::to_string(chance() % 1000);
-        else if (event % 100 == 0)
-            drawn = "Option1:" + std::to_string(chance() % 6 + 1);
-        if (drawn == "Command10" && (patient || chance() % 4 != 0))
-            session.emplace_back("no");
-        session.push_back(chance() % 8 == 0 ? "~" + drawn : drawn);
+    int pipe[2];
+    if (::pipe(pipe) != 0)
+        return "no pipe";
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(20); // nothing keeps the player waiting
+        const std::string fault = FaultOf(wordList, session).substr(0, 4000);
+        _exit(write(pipe[1], fault.data(), fault.size()) == std::ssize(fault) ? 0 : 1);
+    }
+    close(pipe[1]);
+    std::string fault(4000, ' ');
+    fault.resize(static_cast<std::size_t>(std::max<ssize_t>(read(pipe[0], fault.data(), 4000), 0)));
+    close(pipe[0]);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return status == 0 ? fault : "it stops or does not end";
+}
+
+// Leaves out whatever the fault does not need: halves first, in the end single events.
+Session Shrink(const std::filesystem::path& wordList, Session session)
+{
+    for (auto size = std::ssize(session.events) / 2; size > 0; size /= 2) {
+        for (std::ptrdiff_t at = 0; at < std::ssize(session.events);) {
+            Session fewer = session;
+            const auto from = fewer.events.begin() + at;
+            fewer.events.erase(from, from + std::min(size, fewer.events.end() - from));
+            if (fewer.events.empty() || Play(wordList, fewer).empty())
+                at += size;
+            else
+                session = fewer;
+        }
     }
     return session;
 }
 
 } // namespace
 
-SessionLists::SessionLists(std::filesystem::path ownList)
-    : paths_{std::move(ownList)}
+std::string SearchSessions(const std::filesystem::path& wordList, int sessions, std::uint32_t seed)
 {
-    for (const Words& words : smallLists) {
-        paths_.push_back(std::filesystem::temp_directory_path()
-            / ("session_list." + std::to_string(getpid()) + "." + std::to_string(paths_.size())));
-        std::ofstream list(paths_.back(), std::ios::binary);
-        for (const std::string& word : words)
-            list << word << "\n";
+    for (int number = 1; number <= sessions; ++number) {
+        Session session = DrawSession(seed, number);
+        if (Play(wordList, session).empty())
+            continue;
+        session = Shrink(wordList, session);
+        return session.Text() + "# " + Play(wordList, session) + "\n";
     }
-}
-
-SessionLists::~SessionLists()
-{
-    std::error_code ignored;
-    for (std::size_t list = 1; list < paths_.size(); ++list)
-        std::filesystem::remove(paths_[list], ignored);
-}
-
-SearchResult SearchSessions(const SessionLists& lists, long events, std::uint32_t seed)
-{
-    Chance chance(seed);
-    SearchResult all;
-    while (all.counts["events"] < events) {
-        const Words session = DrawSession(chance);
-        std::ofstream(crashScript) << Joined(session);
-        const SearchResult result = Play(lists, session);
-        if (!result.fault.empty())
-            return {result.fault + "\nIt shrinks to: " + Joined(Shrink(lists, session)), {}};
-        for (const auto& [what, count] : result.counts)
-            all.counts[what] += count;
-    }
-    std::filesystem::remove(crashScript);
-    return all;
-}
-
-SearchResult PlaySession(const SessionLists& lists, const std::string& session)
-{
-    std::istringstream stream(session);
-    const Words words{std::istream_iterator<std::string>(stream), {}};
-    if (Fails(lists, words))
-        return {"It shrinks to: " + Joined(Shrink(lists, words)), {}};
-    return Play(lists, words);
+    return "";
 }

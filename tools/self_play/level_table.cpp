@@ -2,10 +2,10 @@
 //
 //   level_table WORD_LIST PLOT.svg         prints the table, and one number for all that was played
 //   level_table WORD_LIST LEVEL SEED       prints the story of one of these games, line by line
+#include "headless/fingerprint.h"
 #include "tools/self_play/level_measures.h"
 #include "tools/self_play/levels_plot.h"
 #include "tools/self_play/played_game.h"
-#include "tools/self_play/simple_player.h"
 
 #include <cstdio>
 #include <exception>
@@ -55,8 +55,8 @@ void MeasureLevels(const std::filesystem::path& lexicon, const std::filesystem::
         measures.push_back(Measure(ofLevel));
     }
     PrintTable(played, measures);
-    std::printf(
-        "\nFingerprint of all moves, messages and boards: `%s`\n", fingerprint.Text().c_str());
+    std::printf("\nFingerprint of all moves, messages and boards: `%016llx`\n",
+        static_cast<unsigned long long>(fingerprint.Value()));
     std::ofstream out(plot);
     DrawLevels(out, measures);
     if (!out.flush())

@@ -1,0 +1,295 @@
+#include "headless/board_text.h"
+
+#include "game/board.h"
+#include "game/clicks.h"
+#include "game/rows.h"
+#include "game/scoring.h"
+#include "headless/script_error.h"
+
+#include <algorithm>
+#include <cassert>
+#include <functional>
+#include <memory>
+#include <sstream>
+
+namespace {
+
+std::string Replaced(std::string text, char from, char to)
+{
+    std::ranges::replace(text, from, to);
+    return text;
+}
+
+void Append(std::string& list, const std::string& piece, char mark)
+{
+    list += (list.empty() ? "" : std::string(1, mark)) + piece;
+}
+
+std::string RowText(const LetterRow& row)
+{
+    std::string text;
+    for (const auto& [letters, enabled] : row) {
+        if (letters.empty())
+            text += enabled ? '.' : '-';
+        else if (letters.size() == 1 && letters >= "a" && letters <= "z")
+            text += enabled ? letters[0] : static_cast<char>(std::toupper(letters[0]));
+        else
+            text += (enabled ? '(' : '[') + Replaced(letters, ' ', '_') + (enabled ? ')' : ']');
+    }
+    return text;
+}
+
+void SetRow(LetterRow& row, const std::string& text)
+{
+    std::size_t at = 0;
+    for (LetterBox& box : row) {
+        Demand(at < text.size(), "a row has six boxes");
+        const char mark = text[at++];
+        const bool capital = mark >= 'A' && mark <= 'Z';
+        box.Enabled = mark != '-' && mark != '[' && !capital;
+        box.Text.clear();
+        if (mark == '(' || mark == '[') {
+            const std::size_t end = text.find(mark == '(' ? ')' : ']', at);
+            Demand(end != std::string::npos, "a bracket is not closed");
+            box.Text = Replaced(text.substr(at, end - at), '_', ' ');
+            at = end + 1;
+        } else if (mark != '.' && mark != '-') {
+            Demand(
+                capital || (mark >= 'a' && mark <= 'z'), std::string("no mark of a row: ") + mark);
+            box.Text = static_cast<char>(std::tolower(mark));
+        }
+    }
+    Demand(at == text.size(), "a row has six boxes");
+}
+
+// A word of "Used Words" as "planet", so many made-up ones as "49".
+std::string UsedText(const Board& board)
+{
+    std::string text;
+    int madeUp = 0;
+    for (const std::string& word : board.List1.Words())
+        word.starts_with("word") ? void(++madeUp) : Append(text, word, ',');
+    return madeUp == 0 ? text : std::to_string(madeUp) + (text.empty() ? "" : ",") + text;
+}
+
+void SetUsed(Board& board, const std::string& used)
+{
+    board.List1.Clear();
+    board.UsedWords = {};
+    board.UsedCount = 0;
+    board.Text9.Text = "0";
+    for (const std::string& word : Split(used, ',')) {
+        const bool madeUp = !word.empty() && word[0] <= '9';
+        const int times = madeUp ? ReadNumber(word, 1, 40000) : static_cast<int>(!word.empty());
+        for (int k = times; k > 0; --k) {
+            NumberBox nobody;
+            ScoreWord(board, nobody, madeUp ? "word" + std::to_string(k) : word);
+        }
+    }
+}
+
+void SetHeld(Board& board, const std::string& held)
+{
+    board.HeldFlag = !held.empty();
+    board.HeldLetter = held.substr(0, held.empty() ? 0 : held.size() - 1);
+    board.HeldIndex = board.HeldFlag ? ReadNumber<std::int16_t>(held.substr(held.size() - 1), 1, 6)
+                                     : std::int16_t{0};
+}
+
+void SetHidden(Board& board, const std::string& text)
+{
+    const std::vector<std::string> words = Split(text, '/');
+    Demand(words.size() == 3 && std::ranges::none_of(words, &std::string::empty),
+        "three words have slashes between them");
+    std::ranges::copy(words, board.HiddenWords.begin());
+}
+
+// Words and how often they are repeated, as in "garden,planet*150"; a number alone is the count of
+// the words that are there.
+void SetCandidates(Board& board, const std::string& text)
+{
+    if (text.find_first_not_of("0123456789") == std::string::npos) {
+        board.CandidateCount = ReadNumber<std::int16_t>(text, 0, 2000);
+        return;
+    }
+    const std::vector<std::string> halves = Split(text, '*');
+    const std::vector<std::string> words = Split(halves[0], ',');
+    Demand(halves.size() <= 2, "one \"*\" stands after the words");
+    const int times = halves.size() == 2 ? ReadNumber(halves[1], 1, 2000) : 1;
+    Demand(times * words.size() <= 2000, "there are 2000 candidates at most");
+    board.CandidateCount = 0;
+    for (int time = 0; time < times; ++time)
+        for (const std::string& word : words)
+            board.Candidates(++board.CandidateCount) = word;
+}
+
+// The controls of the buttons that arrange letters, in the order of ArrangingButtons: the table of
+// clicks tells which of them a flag disables.
+std::vector<std::string> NamesOfArranging()
+{
+    std::vector<std::string> names;
+    const auto board = std::make_unique<Board>();
+    for (Button* button : ArrangingButtons(*board)) {
+        button->Enabled = false;
+        const auto click = std::ranges::find_if(Clicks(),
+            [&board](const Click& row) { return row.Boxes == 0 && !row.Enabled(*board, 0); });
+        assert(click != Clicks().end());
+        names.emplace_back(click->Control);
+        button->Enabled = true;
+    }
+    return names;
+}
+
+const std::vector<std::string> arranging = NamesOfArranging();
+
+std::string OffText(const Board& board)
+{
+    std::string off;
+    std::string on = "arranging";
+    long count = 0;
+    for (const std::string& control : arranging) {
+        if (FindClick(control)->Enabled(board, 0))
+            on += "-" + control;
+        else
+            Append(off, control, ','), ++count;
+    }
+    return count * 2 > std::ssize(arranging) ? on : off;
+}
+
+void SetOff(Board& board, const std::string& off)
+{
+    const bool all = off.starts_with("arranging");
+    const auto group = ArrangingButtons(board);
+    for (Button* button : group)
+        button->Enabled = !all;
+    const std::vector<std::string> names = Split(off, all ? '-' : ',');
+    for (std::size_t k = all ? 1 : 0; k < names.size() && !off.empty(); ++k) {
+        const auto place = std::ranges::find(arranging, names[k]) - arranging.begin();
+        Demand(place < std::ssize(arranging), names[k] + " arranges no letters");
+        group[static_cast<std::size_t>(place)]->Enabled = all;
+    }
+}
+
+struct Part {
+    const char* key;
+    std::function<std::string(const Board&)> text;
+    std::function<void(Board&, const std::string&)> set;
+};
+
+Part Rows(const char* key, std::vector<LetterRow Board::*> rows)
+{
+    return {key,
+        [rows](const Board& board) {
+            std::string text;
+            for (const auto row : rows)
+                Append(text, RowText(board.*row), '/');
+            return text;
+        },
+        [rows](Board& board, const std::string& text) {
+            const std::vector<std::string> texts = Split(text, '/');
+            Demand(texts.size() == rows.size(), "rows have slashes between them");
+            for (std::size_t k = 0; k < rows.size(); ++k)
+                SetRow(board.*rows[k], texts[k]);
+        }};
+}
+
+Part Number(const char* key, NumberBox Board::* box)
+{
+    return {key, [box](const Board& board) { return Replaced((board.*box).Text, ' ', '_'); },
+        [box](Board& board, const std::string& text) {
+            ReadNumber<long long>(
+                text.substr(text.find_first_not_of('_')), -1'000'000'000'000, 1'000'000'000'000);
+            (board.*box).Text = Replaced(text, '_', ' ');
+        }};
+}
+
+Part Count(const char* key, std::int16_t Board::* count, std::int16_t low, std::int16_t high)
+{
+    return {key, [count](const Board& board) { return std::to_string(board.*count); },
+        [=](Board& board, const std::string& text) { board.*count = ReadNumber(text, low, high); }};
+}
+
+// Flags that go together: "yes", "no", or "part" when they do not.
+template <typename... Owner> Part Visible(const char* key, Owner Board::*... owners)
+{
+    return {key,
+        [=](const Board& board) {
+            const int visible = (0 + ... + (board.*owners).Visible);
+            return visible == sizeof...(owners) ? "yes" : visible == 0 ? "no" : "part";
+        },
+        [=](Board& board, const std::string& text) {
+            Demand(text == "yes" || text == "no", "yes or no is wanted");
+            (((board.*owners).Visible = text == "yes"), ...);
+        }};
+}
+
+const Part parts[] = {
+    Rows("you=", {&Board::Text1}),
+    Rows("me=", {&Board::MyLetters}),
+    Rows("swap=", {&Board::SwapLetters}),
+    Rows("up=", {&Board::Text2}),
+    {"held=",
+        [](const Board& board) {
+            return board.HeldLetter + (board.HeldFlag ? std::to_string(board.HeldIndex) : "");
+        },
+        SetHeld},
+    Number("you:", &Board::YourScore),
+    Number("me:", &Board::MyScore),
+    Number("bonus:", &Board::Text9),
+    {"used=", UsedText, SetUsed},
+    Count("ledger:", &Board::UsedCount, 0, 250),
+    {"hidden=",
+        [](const Board& board) {
+            return board.HiddenWords(1) + "/" + board.HiddenWords(2) + "/" + board.HiddenWords(3);
+        },
+        SetHidden},
+    Rows("shown=", {&Board::Word1, &Board::Word2, &Board::Word3}),
+    Rows("guess=", {&Board::Text6, &Board::Text7, &Board::Text8}),
+    Count("next:", &Board::LayOutNext, 0, 7),
+    Count("fruitless:", &Board::FruitlessSwaps, 0, 4),
+    Count("level:", &Board::Level, 0, 6),
+    {"candidates=", [](const Board& board) { return std::to_string(board.CandidateCount); },
+        SetCandidates},
+    Count("responses:", &Board::Check1, 0, 1),
+    {"off=", OffText, SetOff},
+    Visible("go:", &Board::Label5),
+    Visible("frames:", &Board::Frame2, &Board::Frame3, &Board::Frame4, &Board::Frame5,
+        &Board::Frame7, &Board::Frame9),
+    Visible("panel:", &Board::Frame1, &Board::Command2),
+    {"caption=", [](const Board& board) { return Replaced(board.Caption, ' ', '_'); },
+        [](Board& board, const std::string& text) { board.Caption = Replaced(text, '_', ' '); }},
+};
+
+} // namespace
+
+std::vector<std::pair<std::string, std::string>> PartsOf(const Board& board)
+{
+    std::vector<std::pair<std::string, std::string>> all;
+    for (const Part& part : parts)
+        all.emplace_back(part.key, part.text(board));
+    return all;
+}
+
+void SetBoard(Board& board, const std::string& text)
+{
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        const std::string key = word.substr(0, word.find_first_of("=:") + 1);
+        const auto* part = std::ranges::find(parts, key, &Part::key);
+        Demand(part != std::end(parts), word + ": no such part of a board");
+        try {
+            part->set(board, word.substr(key.size()));
+        } catch (const ScriptError& error) {
+            throw ScriptError(word + ": " + error.what());
+        }
+    }
+}
+
+std::string Line(const Board& board, std::initializer_list<const char*> keys)
+{
+    std::string line;
+    for (const char* key : keys)
+        Append(line, key + std::ranges::find(parts, std::string_view(key), &Part::key)->text(board),
+            ' ');
+    return line;
+}

@@ -1,0 +1,229 @@
+#include "headless/script.h"
+
+#include "game/clicks.h"
+#include "game/computer_go.h"
+#include "game/rows.h"
+#include "headless/board_text.h"
+#include "headless/spelling.h"
+
+#include <algorithm>
+#include <sstream>
+
+namespace {
+
+using Run = std::function<void(HeadlessGame& game)>;
+
+constexpr LetterRow Board::* guessRows[] = {&Board::Text6, &Board::Text7, &Board::Text8};
+
+std::string WithBlanks(std::string text)
+{
+    std::ranges::replace(text, '_', ' ');
+    return text;
+}
+
+void TypeHiddenWords(HeadlessGame& game)
+{
+    Board& board = game.board;
+    for (int word = 1; word <= 3 && board.Frame2.Visible && !board.HiddenWords(1).empty(); ++word)
+        for (int k = 1; k <= 6; ++k)
+            (board.*guessRows[word - 1])(k).Text = LetterOf(board.HiddenWords(word), k);
+}
+
+// Submits the pick-th candidate, or the next that is in reach. Every eighth time it may be a used
+// one.
+void SubmitWord(HeadlessGame& game, int pick)
+{
+    const Board& board = game.board;
+    if (board.HeldFlag)
+        game.Click("Text1", board.HeldIndex);
+    for (int k = 1; k <= board.CandidateCount && !HasEmptyBox(board.Text1); ++k) {
+        const std::string word = board.Candidates((k + pick) % board.CandidateCount + 1);
+        const std::vector<Move> moves = MovesFor(board, word);
+        if (moves.empty() || (pick % 8 != 0 && std::ranges::count(board.UsedWords, word) != 0))
+            continue;
+        for (const Move& move : moves)
+            game.Click(move.control, move.index);
+        return;
+    }
+}
+
+Run ReadTyping(const std::string& control, const std::string& box, const std::string& text)
+{
+    if (control == "Check1") {
+        const auto tick = ReadNumber<std::int16_t>(text, 0, 1);
+        Demand(box.empty(), "Check1 has no boxes");
+        return [tick](HeadlessGame& game) {
+            if (game.board.Frame9.Visible)
+                game.board.Check1 = tick;
+        };
+    }
+    Demand(control == "Text6" || control == "Text7" || control == "Text8",
+        "nothing can be typed into " + control);
+    const auto row = guessRows[control.back() - '6'];
+    const int index = ReadNumber(box, 1, 6);
+    return [=](HeadlessGame& game) {
+        if (game.board.Frame2.Visible)
+            (game.board.*row)(index).Text = WithBlanks(text);
+    };
+}
+
+Run ReadClick(const std::string& control, const std::string& box, bool hasBox)
+{
+    const Click* click = FindClick(control);
+    Demand(click != nullptr, "no such event");
+    Demand(hasBox == (click->Boxes > 0),
+        hasBox ? control + " has no boxes" : control + " needs the number of a box");
+    const auto index = hasBox
+        ? ReadNumber<std::int16_t>(box, 1, static_cast<std::int16_t>(click->Boxes))
+        : std::int16_t{0};
+    return [click, index](HeadlessGame& game) { game.Click(click->Control, index); };
+}
+
+// What the word does: NAME, NAME:BOX, NAME=TEXT or NAME:BOX=TEXT.
+Run ReadDoing(const std::string& word)
+{
+    const std::size_t equals = word.find('=');
+    const std::string left = word.substr(0, equals);
+    const std::size_t colon = left.find(':');
+    const bool hasBox = colon != std::string::npos;
+    const std::string name = left.substr(0, colon);
+    const std::string box = hasBox ? left.substr(colon + 1) : "";
+    if (equals != std::string::npos)
+        return ReadTyping(name, box, word.substr(equals + 1));
+    if (name == "word") {
+        const int pick = ReadNumber(box, 0, 9999);
+        return [pick](HeadlessGame& game) { SubmitWord(game, pick); };
+    }
+    if (word == "yes" || word == "no") {
+        const Answer answer = word == "yes" ? Answer::Yes : Answer::No;
+        return [answer](HeadlessGame& game) { game.view.answers.push_back(answer); };
+    }
+    if (word == "right")
+        return TypeHiddenWords;
+    if (word == "computer")
+        return [](HeadlessGame& game) { Command8_Click(game.game); };
+    return ReadClick(name, box, hasBox);
+}
+
+// "0", ".5", "<1", "2/6", with "18*" before it for eighteen of them.
+std::vector<float> ReadDraws(const std::string& word)
+{
+    const std::vector<std::string> halves = Split(word, '*');
+    Demand(halves.size() <= 2, "one \"*\" at most");
+    const std::string& draw = halves.back();
+    const int times = halves.size() == 2 ? ReadNumber(halves[0], 1, 1'000'000) : 1;
+    const std::size_t slash = draw.find('/');
+    float value = justBelowOne;
+    if (slash != std::string::npos) {
+        const int of = ReadNumber(std::string_view(draw).substr(slash + 1), 1, 32767);
+        value = DrawOf(ReadNumber(std::string_view(draw).substr(0, slash), 1, of), of);
+    } else if (draw != "<1") {
+        value = ReadNumber<float>(draw, 0, justBelowOne);
+    }
+    return std::vector<float>(static_cast<std::size_t>(times), value);
+}
+
+// Reads each word with `read` and gives the line one that does them all.
+template <typename Read, typename Each>
+Run ForEachWord(const std::string& rest, Read read, Each each)
+{
+    std::vector<decltype(read(rest))> all;
+    std::istringstream words(rest);
+    for (std::string word; words >> word;) {
+        try {
+            all.push_back(read(word));
+        } catch (const ScriptError& error) {
+            throw ScriptError(word + ": " + error.what());
+        }
+    }
+    Demand(!all.empty(), "something must follow");
+    return [all = std::move(all), each](HeadlessGame& game) {
+        for (const auto& one : all)
+            each(game, one);
+    };
+}
+
+Run ReadList(const std::string& rest)
+{
+    if (rest == "none")
+        return [](HeadlessGame& game) { game.UseNoList(); };
+    std::string bytes;
+    std::istringstream words(rest);
+    for (std::string word; words >> word;)
+        bytes += WithBlanks(word) + "\n";
+    return [bytes](HeadlessGame& game) { game.UseList(bytes); };
+}
+
+Run ReadBoard(const std::string& rest)
+{
+    SetBoard(*std::make_unique<Board>(), rest);
+    return [rest](HeadlessGame& game) { SetBoard(game.board, rest); };
+}
+
+Run ReadLine(const std::string& verb, const std::string& rest)
+{
+    if (verb == "do") {
+        return ForEachWord(
+            rest, ReadEvent, [](HeadlessGame& game, const Event& event) { game.Play(event); });
+    }
+    if (verb == "draws") {
+        return ForEachWord(
+            rest, ReadDraws, [](HeadlessGame& game, const std::vector<float>& draws) {
+                auto& all = game.platform.draws;
+                all.insert(all.end(), draws.begin(), draws.end());
+            });
+    }
+    if (verb == "board")
+        return ReadBoard(rest);
+    if (verb == "list")
+        return ReadList(rest);
+    if (verb == "seed") {
+        const auto seed = ReadNumber<std::uint32_t>(rest, 0, (1U << 24) - 1);
+        return [seed](HeadlessGame& game) { game.platform = HeadlessPlatform(seed); };
+    }
+    Demand(verb == "check" && rest.empty(), "no such line: " + verb + " " + rest);
+    return [](HeadlessGame& game) { game.Check(); };
+}
+
+} // namespace
+
+Event ReadEvent(const std::string& word)
+{
+    const bool waits = word.starts_with('~');
+    return {word, waits, ReadDoing(word.substr(waits ? 1 : 0))};
+}
+
+std::vector<Script> ReadScripts(std::istream& stream, const std::string& file)
+{
+    std::vector<Script> scripts;
+    int number = 0;
+    for (std::string line; std::getline(stream, line);) {
+        ++number;
+        if (line.empty() || line.starts_with('#'))
+            continue;
+        if (line.starts_with("== ") || scripts.empty())
+            scripts.emplace_back();
+        const std::size_t blank = std::min(line.find(' '), line.size());
+        const std::string verb = line.substr(0, blank);
+        const std::string rest = line.substr(std::min(blank + 1, line.size()));
+        try {
+            if (verb == "==")
+                scripts.back().name = rest;
+            else
+                scripts.back().lines.push_back(
+                    {line, verb == ">" || verb == "=" ? nullptr : ReadLine(verb, rest)});
+        } catch (const ScriptError& error) {
+            throw ScriptError(file + ":" + std::to_string(number) + ": " + error.what());
+        }
+    }
+    return scripts;
+}
+
+void RunScript(HeadlessGame& game, const std::string& text)
+{
+    std::istringstream stream(text);
+    for (const Script& script : ReadScripts(stream, "script")) {
+        for (const ScriptLine& line : script.lines)
+            line.run ? line.run(game) : void();
+    }
+}
