@@ -31,6 +31,10 @@ struct Frame {
     bool Visible = true;
 };
 
+struct Label {
+    bool Visible = true;
+};
+
 // A part of the level panel. Places and sizes are in twips, 1440 to the inch.
 struct Panel {
     double Width;
@@ -118,7 +122,7 @@ struct Board {
     Frame Frame5;                                  // "My Letters + Score"
     Frame Frame7;                                  // "Used Words"
     Frame Frame9{.Visible = false};                // "Bonus Score"
-    Frame Label5;                                  // "YOUR GO", visible while the player may act
+    Label Label5;                                  // "YOUR GO", visible while the player may act
 
     // What can be clicked, beside the boxes' own flags.
     Button Command4;  // "<"

@@ -45,7 +45,7 @@ void Disable(LetterRow& row)
         box.Enabled = false;
 }
 
-std::array<Button*, 5> ArrangingButtons(Board& board)
+std::vector<Button*> ArrangingButtons(Board& board)
 {
     return {&board.Command9, &board.Command16, &board.Command4, &board.Command5, &board.Command6};
 }

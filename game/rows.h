@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 // The texts of boxes 1 to 6, joined.
 std::string Spell(const LetterRow& row);
@@ -22,7 +23,7 @@ void Disable(LetterRow& row);
 // The buttons that arrange the player's letters: "Lay Out Word", "+", "<", ">" and "Mix Letters".
 // A laying out takes them away; its end, "Pass" and "Jumble" give them back, and the boxes of Text1
 // with them.
-std::array<Button*, 5> ArrangingButtons(Board& board);
+std::vector<Button*> ArrangingButtons(Board& board);
 void EnableArranging(Board& board);
 
 // The frames of the board, which a game shows and a right guess hides together.

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <variant>
 
-using Field = std::variant<LetterRow Board::*, NumberBox Board::*, Frame Board::*, Panel Board::*,
-    WordList Board::*, std::int16_t Board::*>;
+using Field = std::variant<LetterRow Board::*, NumberBox Board::*, Frame Board::*, Label Board::*,
+    Panel Board::*, WordList Board::*, std::int16_t Board::*>;
 
 struct BoundField {
     std::string_view Control;

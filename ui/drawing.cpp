@@ -79,6 +79,10 @@ struct ShowField {
     {
         SetVisible(*control.Widget, (board.*frame).Visible);
     }
+    void operator()(Label Board::* label) const
+    {
+        SetVisible(*control.Widget, (board.*label).Visible);
+    }
     void operator()(Panel Board::* panel) const
     {
         PlacePanel(*control.Widget, board.*panel, pixelsPerTwip);
