@@ -1,4 +1,4 @@
-// Draws the pictures of the handbook from the real window: the level panel and a game in progress,
+// Draws the pictures of the documents from the real window: the level panel and a game in progress,
 // on a light and on a dark desktop. The same word list gives the same pictures.
 #include "game/board.h"
 #include "game/game.h"
