@@ -10,6 +10,12 @@
 #include <string>
 #include <vector>
 
+// How many words the ledger of used words takes, and of how many words that its letters can make a
+// game consists.
+inline constexpr std::int16_t ledgerSlots = 250;
+inline constexpr std::int16_t fewestCandidates = 300;
+inline constexpr std::int16_t mostCandidates = 2000;
+
 // One box of a row: "" or one letter. In the guess rows it is whatever the player has typed.
 struct LetterBox {
     std::string Text;
@@ -90,18 +96,18 @@ struct Board {
     NumberBox Text9;
 
     // The words played: what the player sees, and the ledger that the tests for used words read.
-    // Slot 0 of the ledger is never filled; slots above UsedCount (0 to 250) are "".
+    // Slot 0 of the ledger is never filled; slots above UsedCount are "".
     WordList List1;
-    Numbered<std::string, 0, 250> UsedWords;
+    Numbered<std::string, 0, ledgerSlots> UsedWords;
     std::int16_t UsedCount = 0;
     std::string ProbeWord;  // goes into CheckWordUsed
     bool ProbeUsed = false; // comes out of it
 
     // The word list as the start of the game found it: its number of records (0 to 32767), the last
-    // record read, and the words that the 18 letters can make (CandidateCount 0 to 2000).
+    // record read, and the words that the 18 letters can make, CandidateCount of them.
     std::int16_t WordCount = 0;
     std::string CurrentWord;
-    Numbered<std::string, 1, 2000> Candidates;
+    Numbered<std::string, 1, mostCandidates> Candidates;
     std::int16_t CandidateCount = 0;
 
     // The computer: 0 while no level is chosen, else 1 (strongest) to 6; and its search.

@@ -31,7 +31,5 @@ void ClaimThreeWords(Game& game)
     game.view.ShowMessage(std::string("I now know all three words")
         + (claimed > yourScore ? " I WIN!!" : " But You Still WIN!!"));
     RevealAllLetters(board);
-    if (game.view.AskYesNo("Play Again", "New Game") == Answer::No)
-        game.view.EndProgram();
-    ReturnToLevelPanel(board);
+    OfferAnotherGame(game);
 }

@@ -43,9 +43,7 @@ void Command7_Click(Game& game)
     game.view.ShowMessage("CORRECT!! Well Done");
     board.YourScore.Text = PlainForm(2 * NumberOf(board.YourScore.Text));
     game.view.ShowMessage(ResultText(board));
-    if (game.view.AskYesNo("Play Again", "New Game") == Answer::No)
-        game.view.EndProgram();
-    ReturnToLevelPanel(board);
+    OfferAnotherGame(game);
     for (Frame* frame : GameFrames(board))
         frame->Visible = false;
     for (LetterRow* row : {&board.Text6, &board.Text7, &board.Text8})

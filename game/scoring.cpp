@@ -6,7 +6,6 @@
 namespace {
 
 constexpr double pointsForWord = 50;
-constexpr std::int16_t ledgerSlots = 250;
 
 } // namespace
 

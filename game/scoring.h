@@ -12,7 +12,7 @@ void ScoreWord(Board& board, NumberBox& side, const std::string& word);
 
 // The rule's steps, for the side that has something to do between them.
 void AddPoints(const Board& board, NumberBox& side);     // 50 and the bonus on show
-void AddUsedWord(Board& board, const std::string& word); // into the ledger, which takes 250 words
+void AddUsedWord(Board& board, const std::string& word); // into the ledger, until it is full
 void RaiseBonus(Board& board);                           // to ten times the count of "Used Words"
 
 // Sets ProbeUsed to whether ProbeWord stands in the ledger.

@@ -14,7 +14,6 @@
 namespace {
 
 constexpr std::size_t wordLength = 6;
-constexpr int fewestCandidates = 300;
 
 // A long list can allow three first letters and yet make them so rare that no draw would meet them
 // while a player waits. A try reads the list about one and a half times, so that the drawing ends
@@ -186,8 +185,11 @@ void CentreLevelPanel(Board& board)
     }
 }
 
-void ReturnToLevelPanel(Board& board)
+void OfferAnotherGame(Game& game)
 {
+    Board& board = game.board;
+    if (game.view.AskYesNo("Play Again", "New Game") == Answer::No)
+        game.view.EndProgram();
     CentreLevelPanel(board);
     board.Frame1.Visible = true;
     board.Command2.Visible = true;

@@ -20,8 +20,9 @@ void DealLetters(Game& game);
 // Puts the level panel in the middle of the window.
 void CentreLevelPanel(Board& board);
 
-// After a game: the level panel is back, centred, and the scores are 0.
-void ReturnToLevelPanel(Board& board);
+// After a game: "Play Again". Yes brings the level panel back, centred, and the scores are 0; No
+// ends the program.
+void OfferAnotherGame(Game& game);
 
 // Tells the player that the word list cannot be read.
 void ShowLexiconMessage(Game& game);

@@ -39,7 +39,7 @@ bool BonusIsTenTimesTheUsedWords(const Board& board)
 
 bool LedgerIsTheList(const Board& board)
 {
-    if (board.UsedCount != std::min<int>(board.List1.ListCount(), 250))
+    if (board.UsedCount != std::min(board.List1.ListCount(), ledgerSlots))
         return false;
     return std::equal(board.UsedWords.begin() + 1, board.UsedWords.begin() + 1 + board.UsedCount,
         board.List1.Words().begin());
@@ -93,7 +93,8 @@ std::string FaultOfGame(const Board& board, bool between)
         {BonusIsTenTimesTheUsedWords(board), "the bonus is not ten times the used words"},
         {LedgerIsTheList(board), "the ledger is not the list of used words"},
         {(!between && board.CandidateCount == 0)
-                || (board.CandidateCount >= 300 && board.CandidateCount <= 2000),
+                || (board.CandidateCount >= fewestCandidates
+                    && board.CandidateCount <= mostCandidates),
             "there are too few candidates or too many"},
         {board.FruitlessSwaps >= 0 && board.FruitlessSwaps <= 4, "fruitless goes are miscounted"},
         {NumberOf(board.YourScore.Text) >= 0 && NumberOf(board.MyScore.Text) >= 0,

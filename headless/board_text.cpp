@@ -109,14 +109,14 @@ void SetHidden(Board& board, const std::string& text)
 void SetCandidates(Board& board, const std::string& text)
 {
     if (text.find_first_not_of("0123456789") == std::string::npos) {
-        board.CandidateCount = ReadNumber<std::int16_t>(text, 0, 2000);
+        board.CandidateCount = ReadNumber<std::int16_t>(text, 0, mostCandidates);
         return;
     }
     const std::vector<std::string> halves = Split(text, '*');
     const std::vector<std::string> words = Split(halves[0], ',');
     Demand(halves.size() <= 2, "one \"*\" stands after the words");
-    const int times = halves.size() == 2 ? ReadNumber(halves[1], 1, 2000) : 1;
-    Demand(times * words.size() <= 2000, "there are 2000 candidates at most");
+    const int times = halves.size() == 2 ? ReadNumber<int>(halves[1], 1, mostCandidates) : 1;
+    Demand(times * words.size() <= mostCandidates, "there are too many candidates");
     board.CandidateCount = 0;
     for (int time = 0; time < times; ++time)
         for (const std::string& word : words)
@@ -237,7 +237,7 @@ const Part parts[] = {
     Number("me:", &Board::MyScore),
     Number("bonus:", &Board::Text9),
     {"used=", UsedText, SetUsed},
-    Count("ledger:", &Board::UsedCount, 0, 250),
+    Count("ledger:", &Board::UsedCount, 0, ledgerSlots),
     {"hidden=",
         [](const Board& board) {
             return board.HiddenWords(1) + "/" + board.HiddenWords(2) + "/" + board.HiddenWords(3);

@@ -66,7 +66,9 @@ bool HeadlessGame::Click(std::string_view control, std::int16_t index)
     const ::Click& click = *FindClick(control);
     if (!click.OnView(board, index) || !click.Enabled(board, index)
         || (referee_ && referee_->Forbids(control))) {
-        Tell("refused " + std::string(control) + (index > 0 ? ":" + std::to_string(index) : ""));
+        std::string refused("refused ");
+        refused.append(control).append(index > 0 ? 1 : 0, ':');
+        Tell(index > 0 ? refused + std::to_string(index) : refused);
         return false;
     }
     if (!referee_)

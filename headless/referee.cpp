@@ -62,7 +62,7 @@ void Referee::OnCall(const std::string& call)
         Require(interrupted_ || !InLedger(Spell(board_.Text1), 50), "a used word scores");
     if (call.starts_with(computersWord)) {
         const std::string word = call.substr(computersWord.size());
-        Require(!InLedger(word, 250), "the computer plays a used word");
+        Require(!InLedger(word, ledgerSlots), "the computer plays a used word");
         Require(Spells(Spell(board_.MyLetters), word), "not the computer's letters");
     }
 }

@@ -25,8 +25,8 @@ template <typename Number> Number ReadNumber(std::string_view text, Number low, 
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
     const bool whole = read.ec == std::errc() && read.ptr == text.data() + text.size();
     Demand(whole && number >= low && number <= high,
-        "\"" + std::string(text) + "\" is not a number from " + std::to_string(low) + " to "
-            + std::to_string(high));
+        std::string("\"").append(text).append("\" is not a number from ") + std::to_string(low)
+            + " to " + std::to_string(high));
     return number;
 }
 

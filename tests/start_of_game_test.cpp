@@ -21,7 +21,7 @@ TEST(StartOfGame, LevelPanelStandsInTheMiddleOfTheWindow)
         || board.Frame5.Visible || board.Frame7.Visible || board.Frame9.Visible);
     board.WindowWidth = 9960;
     board.WindowHeight = 7484;
-    ReturnToLevelPanel(board);
+    OfferAnotherGame(game.game);
     EXPECT_EQ(board.Frame1.Left, 3952.5);
     EXPECT_EQ(board.Frame1.Top, 1934.5);
     EXPECT_EQ(board.Command2.Left, 3832.5);

@@ -86,7 +86,7 @@ std::string DrawTyping(Chance& chance, const std::string& box)
 // A patient player neither gives in nor knows the words.
 std::string DrawEvent(Chance& chance, bool patient)
 {
-    const std::string box = ":" + std::to_string(1 + chance.Below(6));
+    const std::string box{':', static_cast<char>('1' + chance.Below(6))};
     const int kind = chance.Below(40);
     if (kind == 0)
         return "Check1=" + std::to_string(chance.Below(2));
