@@ -1,7 +1,6 @@
-# What a freedesktop menu, a software centre and `man` look for.
+# What a freedesktop menu and `man` look for.
 install(FILES packaging/quorvel2.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${made}/org.example.quorvel2.metainfo.xml
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+configure_file(packaging/quorvel2.6.in ${made}/quorvel2.6 @ONLY)
 install(FILES ${made}/quorvel2.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)

@@ -8,27 +8,11 @@ if(NOT release MATCHES "^## ${PROJECT_VERSION} \\(([0-9-]+)\\)$")
 endif()
 set(release_date ${CMAKE_MATCH_1})
 
-set(QUORVEL_HOME_PAGE "" CACHE STRING
-  "Web address of the project, with docs/pictures below it; none: software centres show neither")
-if(QUORVEL_HOME_PAGE)
-  set(pictures ${QUORVEL_HOME_PAGE}/docs/pictures)
-  set(links "
-  <url type=\"homepage\">${QUORVEL_HOME_PAGE}</url>
-  <screenshots>
-    <screenshot type=\"default\">
-      <caption>A game in progress</caption>
-      <image>${pictures}/game.png</image>
-    </screenshot>
-    <screenshot>
-      <caption>The choice of a level</caption>
-      <image>${pictures}/level-panel.png</image>
-    </screenshot>
-  </screenshots>")
-endif()
+# No such address exists: both are of the domain that is kept for examples.
+set(application_id org.example.quorvel2)
+set(developer_id example.quorvel2)
 
 set(made ${PROJECT_BINARY_DIR}/packaging)
-configure_file(packaging/quorvel2.metainfo.xml.in ${made}/org.example.quorvel2.metainfo.xml @ONLY)
-configure_file(packaging/quorvel2.6.in ${made}/quorvel2.6 @ONLY)
 
 # Beside bin/ and not simply in the data folder, which may be moved: the program looks for it there.
 cmake_path(SET word_list_folder NORMALIZE ${CMAKE_INSTALL_BINDIR}/../share/quorvel2)
@@ -42,7 +26,7 @@ endif()
 set_target_properties(quorvel2 PROPERTIES
   WIN32_EXECUTABLE ON
   MACOSX_BUNDLE ON
-  MACOSX_BUNDLE_GUI_IDENTIFIER org.example.quorvel2
+  MACOSX_BUNDLE_GUI_IDENTIFIER ${application_id}
   MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION}
   MACOSX_BUNDLE_ICON_FILE quorvel2.icns)
 
@@ -65,5 +49,5 @@ elseif(APPLE)
     PROPERTIES MACOSX_PACKAGE_LOCATION share/quorvel2)
 else()
   include(packaging/desktop.cmake)
-  include(packaging/package.cmake)
+  include(packaging/metainfo.cmake)
 endif()
