@@ -1,39 +1,71 @@
 // Typing, keys and the focus.
 #include "window_fixture.h"
 
+#include "game/rows.h"
 #include "ui/roster.h"
 
+#include <QClipboard>
 #include <QLineEdit>
 
 namespace {
 
-TEST_F(Window, TakesWhatIsTypedAndCallsNoHandler)
+// The texts of the three rows, a dot for an empty box.
+std::string Guess(const Board& board)
 {
-    Play(start);
-    const std::string line = Line(board);
-    Play("Text6(2); key x; key Y");
-    EXPECT_EQ(board.Text6(2).Text + board.Text6(3).Text, "xy");
-    EXPECT_EQ(Focused(), "Text6(4)");
-    // Backspace takes a letter away, then goes back from the empty box.
-    Play("key Backspace; key Backspace");
-    EXPECT_EQ(board.Text6(4).Text, "");
-    EXPECT_EQ(Focused(), "Text6(3)");
-    // A click into a filled box and a letter replace what stands there; a second click does not.
-    Play("Text6(1); key q; Text7(4); Text7(4); key w");
-    EXPECT_EQ(board.Text6(1).Text, "q");
-    EXPECT_EQ(board.Text7(4).Text.size(), 2U);
-    // A box takes any text.
-    Play("Text7(2)");
-    QTest::keyClicks(Named("Text7(2)"), "two words");
-    Named<QLineEdit>("Text7(3)")->insert(QString::fromUtf8("\u00e9"));
-    EXPECT_EQ(board.Text7(2).Text, "two words");
-    EXPECT_EQ(board.Text7(3).Text, "\u00e9");
-    Play("Text6(6); key Right");
-    EXPECT_EQ(Focused(), "Text7(1)");
+    std::string guess;
+    for (const LetterRow* row : {&board.Text6, &board.Text7, &board.Text8}) {
+        for (const LetterBox& box : *row)
+            guess += box.Text.empty() ? "." : box.Text;
+        guess += row == &board.Text8 ? "" : "/";
+    }
+    return guess;
+}
+
+void Compose(QWidget* widget, const char* letters)
+{
     QInputMethodEvent composed;
-    composed.setCommitString("z");
-    QCoreApplication::sendEvent(window.focusWidget(), &composed);
-    EXPECT_EQ(Focused(), "Text7(2)");
+    composed.setCommitString(QString::fromUtf8(letters));
+    QCoreApplication::sendEvent(widget, &composed);
+}
+
+TEST_F(Window, TakesGuesses)
+{
+    struct Row {
+        QString steps;
+        const char* guess;
+        QString focused;
+    };
+    // The words are planet, garden and simple, of which letters 1 and 4 are shown.
+    const Row rows[] = {
+        {"Text6(2); key l; key a", "plan../g...../s.....", "Text6(4)"},
+        {"key Backspace", "pl.n../g...../s.....", "Text6(3)"},
+        {"key a; key n; key e; key Backspace", "plan../g...../s.....", "Text6(5)"},
+        {"key Backspace", "pl.n../g...../s.....", "Text6(3)"},
+        {"key Backspace; key Backspace", "p..n../g...../s.....", "Text6(2)"},
+        {"Text6(1); key q", "q..n../g...../s.....", "Text6(2)"},
+        {"Text6(1); Text6(1); key p; key End; key x", "p..n.x/g...../s.....", "Text7(1)"},
+        {"key Right; paste arden", "p..n.x/garden/s.....", "Text8(1)"},
+        {"key End; key Left; paste lest", "p..n.x/garden/s...lest", "Text8(6)"},
+        {"key Home; key Up; key Up; key Right", "p..n.x/garden/s...lest", "Text6(2)"},
+    };
+    Play(start);
+    Play("shown=p..n../g...../s..... guess=p..n../g...../s.....");
+    const std::string line = Line(board);
+    for (const Row& row : rows) {
+        for (const QString& step : row.steps.split("; ")) {
+            if (!step.startsWith("paste ")) {
+                Play(step);
+                continue;
+            }
+            QApplication::clipboard()->setText(step.mid(6));
+            QTest::keySequence(window.focusWidget(), QKeySequence::Paste);
+        }
+        EXPECT_EQ(Guess(board), row.guess) << row.steps.toStdString();
+        EXPECT_EQ(Focused(), row.focused) << row.steps.toStdString();
+    }
+    Compose(window.focusWidget(), "e\u0301"); // one letter that two keys compose
+    EXPECT_EQ(board.Text6(2).Text, "\u00e9");
+    EXPECT_EQ(Focused(), "Text6(3)");
     EXPECT_EQ(Line(board), line);
     EXPECT_TRUE(messages.empty());
 
@@ -43,10 +75,89 @@ TEST_F(Window, TakesWhatIsTypedAndCallsNoHandler)
     EXPECT_FALSE(board.HeldFlag);
 }
 
+TEST_F(Window, TakesATypedWord)
+{
+    struct Row {
+        const char* why;
+        QString steps;
+        const char* you;
+        const char* up;
+        QString focused;
+    };
+    const Row rows[] = {
+        {"a letter lifts the others", "key p", "P-----", ".lanet", "Text2(2)"},
+        {"the first of two", "you=planen; key n", "N-----", "pla.en", "Text2(1)"},
+        {"a letter that is not there lifts nothing", "key x; key Space", ".lanet", "......",
+            "Text1(1)"},
+        {"nor does it place one", "key p; key p; key x", "P-----", ".lanet", "Text2(2)"},
+        {"a whole word", "key T; key e; key n; key a; key l; key p", "tenalp", "......",
+            "Command3"},
+        {"a slip is mended", "key t; key e; key n; key a; key l; key p; key p", "P-----", "tenal.",
+            "Text2(1)"},
+        {"what is left goes back in order", "key t; key Escape", "tplane", "......", "Text2(1)"},
+        {"from a button and from the list", "Command14; you=planet; key p; List1; key t", "PT----",
+            ".lane.", "Text2(2)"},
+        {"not with a letter in the hand", "Text1(3); key p", "pl.net", "......", "Text1(3)"},
+        {"not with Lay Out Word disabled", "off=Command9; key p", "planet", "......", "Text1(1)"},
+        {"not while the computer plays", "go:no; key p", "planet", "......", "Text1(1)"},
+        {"not on the level panel", "panel:yes; key p", "planet", "......", "Option1(1)"},
+        {"not by a command", "key Ctrl+P; key Alt+P; key Meta+P", "planet", "......", "Text1(1)"},
+    };
+    Play(start + "; Check1");
+    for (const Row& row : rows) {
+        Play("panel:no go:yes off= held= up=...... you=planet swap=simple; Text1(1); Text1(1)");
+        Play(row.steps);
+        const auto parts = PartsOf(board);
+        EXPECT_EQ(parts[0].second, row.you) << row.why;
+        EXPECT_EQ(parts[3].second, row.up) << row.why;
+        EXPECT_EQ(Focused(), row.focused) << row.why;
+        EXPECT_TRUE(messages.empty()) << row.why;
+        messages.clear();
+    }
+
+    // Letters that keys compose, held keys, and AltGr.
+    Play("panel:no go:yes off= held= up=...... you=pl(\u00e9)net; Text1(1); Text1(1)");
+    Compose(window.focusWidget(), "E\u0301");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_N, Qt::NoModifier, "n", true);
+    QCoreApplication::sendEvent(window.focusWidget(), &held);
+    QTest::keyClick(window.focusWidget(), Qt::Key_P, Qt::GroupSwitchModifier);
+    EXPECT_EQ(Spell(board.Text1), "\u00e9p");
+}
+
+TEST_F(Window, FocusGoesWherePlayGoesOn)
+{
+    struct Row {
+        const char* why;
+        QString steps;
+        QString focused;
+    };
+    const Row rows[] = {
+        {"after a start", start, "Text1(1)"},
+        {"after a swap", "Text1(2); SwapLetters(3)", "Text1(1)"},
+        {"after a word", "you=planet; Command3", "Text1(1)"},
+        {"after a refused one", "up=......; Text1(2); Command3", "Command3"},
+        {"after a pass", "Command13", "Text1(1)"},
+        {"after a guess with a gap, down the columns", "guess=pl.net/g.rden/simple; Command7",
+            "Text7(2)"},
+        {"while all yellow boxes are disabled",
+            "held= you=------ up=.lanet; Command14; Text1(4); "
+            "Command9; key Tab; Text2(3)",
+            "Text2(3)"},
+        {"after giving in", "Command10", "Text1(1)"},
+    };
+    for (const Row& row : rows) {
+        answers = "yy";
+        Play(row.steps);
+        EXPECT_EQ(Focused(), row.focused) << row.why;
+    }
+}
+
 TEST_F(Window, IsPlayedByKeyboard)
 {
     EXPECT_EQ(Focused(), "Option1(1)");
-    Play("key Down; key Space; key Down");
+    Play("key Down");
+    EXPECT_EQ(board.Level, 1) << "the level in focus comes first";
+    Play("key Down; key Down");
     EXPECT_EQ(board.Level, 3);
     Play("key Return");
     EXPECT_EQ(Focused(), "Text1(1)");
@@ -58,20 +169,21 @@ TEST_F(Window, IsPlayedByKeyboard)
         } while (Focused() != order.front() && order.size() < 99);
         return order;
     };
-    // Every box to guess in is a stop, and of a row to click only the first.
-    QStringList stops;
-    for (const QString name : TabOrder()) {
-        if (Named(name + "(1)") == nullptr)
-            stops.push_back(name);
-        else if (Named<QLineEdit>(name + "(1)") == nullptr)
-            stops.push_back(name + "(1)");
-        else
-            for (int box = 1; box <= 6; ++box)
-                stops.push_back(QString("%1(%2)").arg(name).arg(box));
-    }
+    QStringList stops; // of a row only the first box
+    for (const QString name : TabOrder())
+        stops.push_back(Named(name) == nullptr ? name + "(1)" : name);
     stops.removeIf([this](const QString& name) { return !Named(name)->isVisible(); });
     QStringList order = walk();
     EXPECT_EQ(order.join(' ').toStdString(), stops.join(' ').toStdString());
+    // No arrow key ends anywhere for good: each of them leads back from every stop.
+    for (const char* key : {"key Up", "key Down"}) {
+        QStringList met;
+        do {
+            met.push_back(Focused());
+            Play(key);
+        } while (Focused() != order.front() && met.size() < 99);
+        EXPECT_LT(met.size(), 99) << key << " stays at " << Focused().toStdString();
+    }
 
     board.Text1(2).Text = "p";
     Play("key Right; key Enter");
@@ -89,7 +201,7 @@ TEST_F(Window, IsPlayedByKeyboard)
     EXPECT_EQ(Spoken("Text1(1)"), "Your letter 1: p");
     // Tab comes back to the box that was left, and lost focus goes to where play goes on.
     Play("key Tab");
-    EXPECT_EQ(Focused(), "Command4");
+    EXPECT_EQ(Focused(), "SwapLetters(1)");
     Play("key Shift+Tab");
     EXPECT_EQ(Focused(), "Text1(1)");
     Play("Command9");

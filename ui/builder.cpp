@@ -85,6 +85,7 @@ Controls BuildControls(QWidget& window)
         for (int number = first; number <= last; ++number) {
             QWidget* widget = MakeWidget(frames.at(row.In), row);
             widget->setObjectName(NameOf(row, number));
+            widget->setAttribute(Qt::WA_InputMethodEnabled); // for letters that keys compose
             controls.push_back({&row, number, widget, FindField(row.Name), FindClick(row.Name)});
             GiveColours(controls.back());
             GiveWords(controls.back());

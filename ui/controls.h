@@ -30,6 +30,11 @@ Widget& Find(const Controls& controls, std::string_view name, int number = 0);
 const BuiltControl& FindControl(const Controls& controls, std::string_view name, int number = 0);
 [[noreturn]] void StopOverWrongKind(const BuiltControl& control);
 
+// Whether the board has the control enabled, and has it on view as far as the control's own flag
+// says: the frames around it have flags of theirs.
+bool IsEnabled(const BuiltControl& control, const Board& board);
+bool IsOnView(const BuiltControl& control, const Board& board);
+
 template <typename Widget> Widget& As(const BuiltControl& control)
 {
     auto* widget = dynamic_cast<Widget*>(control.Widget);

@@ -1,6 +1,5 @@
 #include "ui/drawing.h"
 
-#include "game/clicks.h"
 #include "ui/guess_box.h"
 #include "ui/letter_tile.h"
 #include "ui/places.h"
@@ -10,6 +9,9 @@
 
 #include <QAbstractButton>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 QString Shown(const std::string& text)
@@ -17,26 +19,16 @@ QString Shown(const std::string& text)
     return QString::fromUtf8(text);
 }
 
-void SetVisible(QWidget& widget, bool visible)
-{
-    if (widget.isHidden() == visible)
-        widget.setVisible(visible);
-}
+// Where a guess at a word is typed, and where its letters are shown.
+constexpr std::pair<LetterRow Board::*, LetterRow Board::*> guessedWords[] = {
+    {&Board::Text6, &Board::Word1}, {&Board::Text7, &Board::Word2}, {&Board::Text8, &Board::Word3}};
 
-void SetEnabled(QWidget& widget, bool enabled)
+bool IsKnown(const Board& board, LetterRow Board::* guess, int number)
 {
-    if (widget.isEnabledTo(widget.parentWidget()) != enabled)
-        widget.setEnabled(enabled);
-}
-
-// What can be clicked is asked of the table of clicks; the other boxes have a flag of their own.
-bool IsEnabled(const BuiltControl& control, const Board& board)
-{
-    if (control.Clicked != nullptr)
-        return control.Clicked->Enabled(board, static_cast<std::int16_t>(control.Number));
-    if (control.Shows != nullptr && std::holds_alternative<LetterRow Board::*>(*control.Shows))
-        return (board.*std::get<LetterRow Board::*>(*control.Shows))(control.Number).Enabled;
-    return true;
+    const std::string& letter = (board.*guess)(number).Text;
+    const auto* pair = std::ranges::find(
+        guessedWords, guess, &std::pair<LetterRow Board::*, LetterRow Board::*>::first);
+    return !letter.empty() && letter == (board.*pair->second)(number).Text;
 }
 
 // A letter in the hand is in no box; the one that it came from shows it faintly.
@@ -60,6 +52,7 @@ struct ShowField {
             auto& guess = As<GuessBox>(control);
             if (guess.text() != text)
                 guess.setText(text);
+            guess.SetKnown(IsKnown(board, row, control.Number));
             return;
         }
         const QString faint = FaintLetter(box, board);
@@ -75,18 +68,11 @@ struct ShowField {
         As<ShownBox>(control).setText(text);
         NameBox(control, text.trimmed(), QString(), true);
     }
-    void operator()(Frame Board::* frame) const
-    {
-        SetVisible(*control.Widget, (board.*frame).Visible);
-    }
-    void operator()(Label Board::* label) const
-    {
-        SetVisible(*control.Widget, (board.*label).Visible);
-    }
+    void operator()(Frame Board::* /*frame*/) const { }
+    void operator()(Label Board::* /*label*/) const { }
     void operator()(Panel Board::* panel) const
     {
         PlacePanel(*control.Widget, board.*panel, pixelsPerTwip);
-        SetVisible(*control.Widget, (board.*panel).Visible);
     }
     void operator()(WordList Board::* words) const
     {
@@ -108,8 +94,23 @@ struct ShowField {
 void ShowControls(const Controls& controls, const Board& board, double pixelsPerTwip)
 {
     for (const BuiltControl& control : controls) {
+        QWidget& widget = *control.Widget;
         if (control.Shows != nullptr)
             std::visit(ShowField{control, board, pixelsPerTwip}, *control.Shows);
-        SetEnabled(*control.Widget, IsEnabled(control, board));
+        if (IsEnabled(control, board) && !widget.isEnabledTo(widget.parentWidget()))
+            widget.setEnabled(true);
+        if (IsOnView(control, board) && widget.isHidden())
+            widget.show();
+    }
+}
+
+void TakeOutOfPlay(const Controls& controls, const Board& board)
+{
+    for (const BuiltControl& control : controls) {
+        QWidget& widget = *control.Widget;
+        if (!IsEnabled(control, board) && widget.isEnabledTo(widget.parentWidget()))
+            widget.setEnabled(false);
+        if (!IsOnView(control, board) && !widget.isHidden())
+            widget.hide();
     }
 }

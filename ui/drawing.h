@@ -5,5 +5,10 @@
 
 struct Board;
 
-// Shows every control as the board has it; what has not changed is left alone.
+// Shows in every control what the board has, and brings into play what comes into play; what has
+// not changed is left alone.
 void ShowControls(const Controls& controls, const Board& board, double pixelsPerTwip);
+
+// Disables and hides what the board has taken out of play. It comes second, so that the focus can
+// go on before it is taken away.
+void TakeOutOfPlay(const Controls& controls, const Board& board);

@@ -8,24 +8,57 @@
 #include <algorithm>
 #include <map>
 
+namespace {
+
+constexpr const char* guessRows[] = {"Text6", "Text7", "Text8"};
+
+// The board's word on every frame around the control, and on the control itself.
+bool IsInPlay(const Controls& controls, const Board& board, const QWidget& widget)
+{
+    for (const QWidget* part = &widget; part != nullptr; part = part->parentWidget()) {
+        const auto control = std::ranges::find(controls, part, &BuiltControl::Widget);
+        if (control != controls.end() && !(IsOnView(*control, board) && IsEnabled(*control, board)))
+            return false;
+    }
+    return true;
+}
+
+int FirstFilled(const LetterRow& row)
+{
+    for (int box = 1; box <= 6; ++box) {
+        if (!row(box).Text.empty())
+            return box;
+    }
+    return 0;
+}
+
+} // namespace
+
 // By the number of the box, wherever in the roster the boxes stand.
 void JoinRows(const Controls& controls)
 {
     std::map<std::string_view, std::map<int, LetterTile*>> rows;
-    GuessBox* lastGuess = nullptr;
     for (const BuiltControl& control : controls) {
-        if (control.Row->Is == Kind::LetterTile) {
+        if (control.Row->Is == Kind::LetterTile)
             rows[control.Row->Name][control.Number] = &As<LetterTile>(control);
-        } else if (control.Row->Is == Kind::GuessBox) {
-            auto* guess = &As<GuessBox>(control);
-            if (lastGuess != nullptr)
-                guess->JoinTo(lastGuess);
-            lastGuess = guess;
-        }
     }
     for (const auto& [name, row] : rows)
         for (auto tile = std::next(row.begin()); tile != row.end(); ++tile)
-            tile->second->JoinTo(std::prev(tile)->second);
+            tile->second->InRow().JoinTo(std::prev(tile)->second->InRow());
+
+    GuessBox* last = nullptr;
+    const char* above = nullptr;
+    for (const char* row : guessRows) {
+        for (int number = 1; number <= 6; ++number) {
+            auto& box = Find<GuessBox>(controls, row, number);
+            if (last != nullptr)
+                box.JoinTo(*last, number > 1);
+            if (above != nullptr)
+                box.StandBelow(Find<GuessBox>(controls, above, number));
+            last = &box;
+        }
+        above = row;
+    }
 }
 
 void SetTabOrder(const Controls& controls)
@@ -44,16 +77,35 @@ void SetTabOrder(const Controls& controls)
     }
 }
 
-void KeepFocusInPlay(const Controls& controls, const Board& board, const QWidget* focused)
+void FocusOnPlay(const Controls& controls, const Board& board)
 {
-    const QWidget& panel = Find(controls, "Frame1");
-    if (focused != nullptr && focused->isEnabled() && focused->isVisibleTo(focused->window())
-        && (!board.Frame1.Visible || panel.isAncestorOf(focused)))
-        return;
     if (board.Frame1.Visible)
         Find(controls, "Option1", std::max<int>(board.Level, 1)).setFocus();
+    else if (board.Text1(1).Enabled)
+        Find(controls, "Text1", 1).setFocus();
+    else if (const int laidOut = FirstFilled(board.Text2); laidOut != 0)
+        Find(controls, "Text2", laidOut).setFocus();
     else
-        Find(controls, board.Text1(1).Enabled ? "Text1" : "Text2", 1).setFocus();
+        Find(controls, "Command13").setFocus(); // "Pass"
+}
+
+bool FocusStaysInPlay(const Controls& controls, const Board& board)
+{
+    const QWidget& panel = Find(controls, "Frame1");
+    const QWidget* focused = panel.window()->focusWidget();
+    return focused != nullptr && IsInPlay(controls, board, *focused)
+        && (!board.Frame1.Visible || panel.isAncestorOf(focused));
+}
+
+void FocusOnGap(const Controls& controls, const Board& board)
+{
+    const LetterRow* const rows[] = {&board.Text6, &board.Text7, &board.Text8};
+    for (int box = 1; box <= 6; ++box) {
+        for (std::size_t row = 0; row < std::size(rows); ++row) {
+            if ((*rows[row])(box).Text.empty())
+                return Find(controls, guessRows[row], box).setFocus(Qt::TabFocusReason);
+        }
+    }
 }
 
 bool StepToSight(const QWidget& window, const std::function<bool()>& step)
@@ -63,7 +115,7 @@ bool StepToSight(const QWidget& window, const std::function<bool()>& step)
     do {
         found = step();
         if (auto* tile = dynamic_cast<LetterTile*>(window.focusWidget()))
-            tile->StepIntoSight();
+            tile->InRow().StepIntoSight();
     } while (
         found && window.focusWidget() != from && window.focusWidget()->visibleRegion().isEmpty());
     return found;

@@ -12,8 +12,16 @@ void JoinRows(const Controls& controls);
 
 void SetTabOrder(const Controls& controls);
 
-// When what had the focus has gone from play, the focus goes where the player goes on.
-void KeepFocusInPlay(const Controls& controls, const Board& board, const QWidget* focused);
+// Gives the focus to the control where the player goes on: the chosen level while the level panel
+// is up, else the first of the player's letters, of those laid out, or "Pass".
+void FocusOnPlay(const Controls& controls, const Board& board);
+
+// True when the board leaves what has the focus in play; false too when nothing has it.
+bool FocusStaysInPlay(const Controls& controls, const Board& board);
+
+// Gives the focus to the first empty box of the guess, down the columns; leaves it when all are
+// filled.
+void FocusOnGap(const Controls& controls, const Board& board);
 
 // Takes a step of the Tab key, and more of them past what the level panel covers wholly. False when
 // the last step found nothing to go to.

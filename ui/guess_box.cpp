@@ -14,19 +14,22 @@ GuessBox::GuessBox(QWidget* parent)
     setAlignment(Qt::AlignCenter);
     setFrame(false); // the style's is as dark as the ground of a dark desktop
     setMaxLength(std::numeric_limits<int>::max());
+    connect(this, &QLineEdit::textEdited, this, &GuessBox::Spread);
 }
 
-void GuessBox::JoinTo(GuessBox* previous)
+void GuessBox::JoinTo(GuessBox& previous, bool inOneRow)
 {
-    previous_ = previous;
-    previous->next_ = this;
+    previous_ = &previous;
+    previous.next_ = this;
+    previous.lastInRow_ = !inOneRow;
+    if (inOneRow)
+        inRow_.JoinTo(previous.inRow_);
 }
 
-void GuessBox::StepTo(GuessBox* box)
+void GuessBox::StandBelow(GuessBox& above)
 {
-    // For the reason of a Tab key the box selects its text, so that typing replaces it.
-    if (box != nullptr)
-        box->setFocus(Qt::TabFocusReason);
+    above_ = &above;
+    above.below_ = this;
 }
 
 void GuessBox::paintEvent(QPaintEvent* event)
@@ -36,47 +39,98 @@ void GuessBox::paintEvent(QPaintEvent* event)
     DrawEdge(painter, *this, palette().color(QPalette::Base));
 }
 
-// What was typed moves on once it stands in the box.
-void GuessBox::StepAfter(const QString& typed)
+// For the reason of a Tab key the box selects its text, so that typing replaces it.
+bool GuessBox::StepTo(GuessBox* box)
 {
-    if (!typed.isEmpty() && typed.back().isPrint() && text().left(cursorPosition()).endsWith(typed))
-        StepTo(next_);
+    if (box == nullptr || box->visibleRegion().isEmpty())
+        return false;
+    box->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+void GuessBox::Write(const QString& letters)
+{
+    if (text() != letters)
+        setText(letters);
+    if (told_)
+        told_(letters);
+}
+
+// A letter moves on once it stands in the box. More of them at once, as a pasted word brings, go on
+// over the row, and what is left then stays in its last box.
+void GuessBox::Spread(const QString& typed)
+{
+    const QList<uint> letters = typed.normalized(QString::NormalizationForm_C).toUcs4();
+    const auto from = [&letters](qsizetype first, qsizetype count) {
+        const QList<uint> some = letters.mid(first, count);
+        return QString::fromUcs4(reinterpret_cast<const char32_t*>(some.constData()), some.size());
+    };
+    GuessBox* box = this;
+    qsizetype written = 0;
+    for (; written + 1 < letters.size() && !box->lastInRow_; ++written, box = box->next_)
+        box->Write(from(written, 1));
+    box->Write(from(written, -1));
+    if (erasing_ || letters.isEmpty())
+        return;
+    if (StepTo(box->next_))
+        box->next_->steppedInto_ = true;
+    else if (box != this)
+        StepTo(box);
+}
+
+// Goes back to the letter typed last and takes it away.
+void GuessBox::EraseBefore()
+{
+    GuessBox* box = previous_;
+    while (box != nullptr && box->known_)
+        box = box->previous_;
+    if (StepTo(box))
+        box->Write("");
+}
+
+// Left and Right leave a box at the ends of what is in it, and run on from row to row.
+bool GuessBox::Walk(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return (cursorPosition() == 0 || hasSelectedText()) && StepTo(previous_);
+    case Qt::Key_Right:
+        return (cursorPosition() == text().size() || hasSelectedText()) && StepTo(next_);
+    case Qt::Key_Up:
+        return StepTo(above_) || focusNextPrevChild(false);
+    case Qt::Key_Down:
+        return StepTo(below_) || focusNextPrevChild(true);
+    default:
+        return inRow_.Walk(key);
+    }
 }
 
 void GuessBox::keyPressEvent(QKeyEvent* event)
 {
-    const bool atStart = cursorPosition() == 0 || hasSelectedText();
-    const bool atEnd = cursorPosition() == text().size() || hasSelectedText();
-    if ((event->key() == Qt::Key_Left && atStart)
-        || (event->key() == Qt::Key_Backspace && text().isEmpty())) {
-        StepTo(previous_);
+    const bool stepped = std::exchange(steppedInto_, false);
+    if (event->key() == Qt::Key_Backspace && (stepped || text().isEmpty())) {
+        EraseBefore();
         return;
     }
-    if (event->key() == Qt::Key_Right && atEnd) {
-        StepTo(next_);
+    if (event->modifiers() == Qt::NoModifier && Walk(event->key()))
         return;
-    }
+    erasing_ = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
     QLineEdit::keyPressEvent(event);
-    StepAfter(event->text());
-}
-
-void GuessBox::inputMethodEvent(QInputMethodEvent* event)
-{
-    QLineEdit::inputMethodEvent(event);
-    StepAfter(event->commitString());
+    erasing_ = false;
 }
 
 void GuessBox::focusInEvent(QFocusEvent* event)
 {
+    inRow_.StopHere();
+    steppedInto_ = false;
     QLineEdit::focusInEvent(event);
-    entered_ = event->reason() == Qt::MouseFocusReason;
 }
 
-// The click that enters the box selects its text, as a step into it does; the next one places the
-// cursor.
+// A click selects what is in the box, as a step into it does.
 void GuessBox::mouseReleaseEvent(QMouseEvent* event)
 {
     QLineEdit::mouseReleaseEvent(event);
-    if (std::exchange(entered_, false) && !hasSelectedText())
+    steppedInto_ = false;
+    if (!hasSelectedText())
         selectAll();
 }

@@ -1,27 +1,50 @@
 // A box of the guess rows: it takes any text, and a typed letter moves on to the next box.
 #pragma once
 
+#include "ui/row_place.h"
+
 #include <QLineEdit>
+
+#include <functional>
 
 class GuessBox : public QLineEdit {
 public:
     explicit GuessBox(QWidget* parent);
 
-    // The box before this one, in this row or at the end of the row above.
-    void JoinTo(GuessBox* previous);
+    // The box before this one in the order of typing: its neighbour to the left, or the last one of
+    // the row above.
+    void JoinTo(GuessBox& previous, bool inOneRow);
+
+    // The box above this one, in the row above.
+    void StandBelow(GuessBox& above);
+
+    // Who is told of every text that the player gives the box.
+    void OnTyped(std::function<void(const QString&)> told) { told_ = std::move(told); }
+
+    // A letter that is known to be right is passed on the way back, and not erased.
+    void SetKnown(bool known) { known_ = known; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void StepTo(GuessBox* box);
-    void StepAfter(const QString& typed);
+    static bool StepTo(GuessBox* box);
+    bool Walk(int key);
+    void EraseBefore();
+    void Spread(const QString& typed);
+    void Write(const QString& letters);
 
+    RowPlace inRow_{*this};
     GuessBox* previous_ = nullptr;
     GuessBox* next_ = nullptr;
-    bool entered_ = false; // by the click that is being made
+    GuessBox* above_ = nullptr;
+    GuessBox* below_ = nullptr;
+    std::function<void(const QString&)> told_;
+    bool lastInRow_ = true;
+    bool known_ = false;
+    bool steppedInto_ = false; // on from a letter that was typed: Backspace is for that letter
+    bool erasing_ = false;
 };

@@ -13,13 +13,6 @@ LetterTile::LetterTile(QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void LetterTile::JoinTo(LetterTile* previous)
-{
-    previous_ = previous;
-    previous->next_ = this;
-    setFocusPolicy(Qt::ClickFocus);
-}
-
 void LetterTile::SetLetter(const QString& letter, const QString& faint)
 {
     if (text() != letter)
@@ -36,37 +29,17 @@ void LetterTile::paintEvent(QPaintEvent* /*event*/)
     DrawFlatBox(*this, {.text = faint ? faint_ : text(), .faint = faint, .pressed = isDown()});
 }
 
-void LetterTile::StepTo(LetterTile* tile)
-{
-    if (tile != nullptr && tile->isEnabled() && !tile->visibleRegion().isEmpty())
-        tile->setFocus(Qt::OtherFocusReason);
-}
-
-void LetterTile::StepIntoSight()
-{
-    LetterTile* tile = this;
-    while (tile != nullptr && tile->visibleRegion().isEmpty())
-        tile = tile->next_;
-    StepTo(tile);
-}
-
+// Left and Right stay in the row; Up and Down leave it, as the toolkit has it for any button.
 void LetterTile::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Left)
-        StepTo(previous_);
-    else if (event->key() == Qt::Key_Right)
-        StepTo(next_);
-    else
+    const bool inRow = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    if (!inRow_.Walk(event->key()) && !inRow)
         QPushButton::keyPressEvent(event);
 }
 
 void LetterTile::focusInEvent(QFocusEvent* event)
 {
-    for (LetterTile* tile = previous_; tile != nullptr; tile = tile->previous_)
-        tile->setFocusPolicy(Qt::ClickFocus);
-    for (LetterTile* tile = next_; tile != nullptr; tile = tile->next_)
-        tile->setFocusPolicy(Qt::ClickFocus);
-    setFocusPolicy(Qt::StrongFocus);
+    inRow_.StopHere();
     QPushButton::focusInEvent(event);
 }
 

@@ -2,23 +2,20 @@
 // shows.
 #pragma once
 
+#include "ui/row_place.h"
+
 #include <QLabel>
 #include <QPushButton>
 
-// A box with one letter that is clicked with the mouse, with Space or with Enter. The arrow keys
-// walk its row, and the Tab key stops once in a row: at the box that had the focus last.
+// A box with one letter that is clicked with the mouse, with Space or with Enter.
 class LetterTile : public QPushButton {
 public:
     explicit LetterTile(QWidget* parent);
 
-    // The neighbour in the row, to the left.
-    void JoinTo(LetterTile* previous);
+    RowPlace& InRow() { return inRow_; }
 
     // The letter in the box; and where the box is empty, a letter that is shown faintly in it.
     void SetLetter(const QString& letter, const QString& faint);
-
-    // From a box that something covers wholly, gives the focus to the first in sight to the right.
-    void StepIntoSight();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -26,10 +23,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
-    void StepTo(LetterTile* tile);
-
-    LetterTile* previous_ = nullptr;
-    LetterTile* next_ = nullptr;
+    RowPlace inRow_{*this};
     QString faint_;
 };
 

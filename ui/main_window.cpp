@@ -9,13 +9,13 @@
 #include "ui/drawing.h"
 #include "ui/focus.h"
 #include "ui/fonts.h"
+#include "ui/guess_box.h"
 #include "ui/places.h"
 #include "ui/roster.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QIcon>
-#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +37,7 @@ MainWindow::MainWindow(Game& game)
     : game_(game)
     , controls_(BuildControls(*this))
     , size_(*this, game.board)
+    , typing_(controls_, game.board)
 {
     setWindowIcon(QIcon(u":/quorvel2.png"_s));
     Form_Load(game_);
@@ -44,8 +45,9 @@ MainWindow::MainWindow(Game& game)
     ConnectTyping();
     PlaceControls(controls_, game_.board, size_.PixelsPerTwip());
     ShowBoard();
-    Find(controls_, "Option1", 1).setFocus();
+    FocusOnPlay(controls_, game_.board);
     qApp->installEventFilter(&heldEnter_);
+    qApp->installEventFilter(&typing_);
 }
 
 void MainWindow::ConnectClicks()
@@ -53,13 +55,22 @@ void MainWindow::ConnectClicks()
     for (const BuiltControl& control : controls_) {
         if (control.Clicked == nullptr)
             continue;
-        const auto index = static_cast<std::int16_t>(control.Number);
         connect(&As<QAbstractButton>(control), &QAbstractButton::clicked, this,
-            [this, click = control.Clicked, index] {
-                Deliver(game_, *click, index);
-                ShowBoard();
-            });
+            [this, &control] { Click(control); });
     }
+}
+
+void MainWindow::Click(const BuiltControl& control)
+{
+    refreshed_ = false;
+    Deliver(game_, *control.Clicked, static_cast<std::int16_t>(control.Number));
+    ShowBoard();
+    // A handler that repaints before its end has begun a game or a go, or has made the swap of one:
+    // the player goes on at the letters.
+    if (refreshed_)
+        FocusOnPlay(controls_, game_.board);
+    else if (control.Clicked->Control == "Command7" && !game_.board.Frame1.Visible)
+        FocusOnGap(controls_, game_.board); // "Make A Guess"
 }
 
 void MainWindow::ConnectTyping()
@@ -71,19 +82,20 @@ void MainWindow::ConnectTyping()
         if (control.Row->Is != Kind::GuessBox || control.Shows == nullptr)
             continue;
         LetterBox& box = (board.*std::get<LetterRow Board::*>(*control.Shows))(control.Number);
-        connect(&As<QLineEdit>(control), &QLineEdit::textEdited, this,
-            [&box](const QString& typed) { WriteGuess(box, typed); });
+        As<GuessBox>(control).OnTyped([&box](const QString& typed) { WriteGuess(box, typed); });
     }
 }
 
 void MainWindow::ShowBoard()
 {
-    const QWidget* focused = focusWidget();
     if (const QString caption = QString::fromUtf8(game_.board.Caption); windowTitle() != caption)
         setWindowTitle(caption);
     ShowControls(controls_, game_.board, size_.PixelsPerTwip());
+    // What is disabled or hidden while it has the focus would hand it to its neighbour.
+    if (!FocusStaysInPlay(controls_, game_.board))
+        FocusOnPlay(controls_, game_.board);
+    TakeOutOfPlay(controls_, game_.board);
     GiveFonts(controls_, size_.PixelsPerTwip());
-    KeepFocusInPlay(controls_, game_.board, focused);
 }
 
 void MainWindow::Refresh()
@@ -93,6 +105,7 @@ void MainWindow::Refresh()
     QEvent paint(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(this, &paint);
     QCoreApplication::processEvents();
+    refreshed_ = true;
 }
 
 void MainWindow::HoldSize()
@@ -129,7 +142,7 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (!PressOnLevelPanel(controls_, *event))
+    if (!PressOnLevelPanel(controls_, *event) && !typing_.Press(*event))
         QWidget::keyPressEvent(event);
 }
 

@@ -4,6 +4,7 @@
 
 #include "ui/controls.h"
 #include "ui/keys.h"
+#include "ui/typing.h"
 #include "ui/window_size.h"
 
 #include <QWidget>
@@ -33,10 +34,13 @@ protected:
 private:
     void ConnectClicks();
     void ConnectTyping();
+    void Click(const BuiltControl& control);
     void HoldSize();
 
     Game& game_;
     Controls controls_;
     WindowSize size_;
     HeldEnterFilter heldEnter_;
+    Typing typing_;
+    bool refreshed_ = false; // by the handler under way
 };

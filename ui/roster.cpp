@@ -317,11 +317,12 @@ constexpr Control roster[] = {
         .SpokenHelp = "Starts a game at the chosen level"},
 };
 
-// From the letters to what is done with them, then to the words; what is read alone comes last.
+// In the order in which a go is played: the swap, the word, its end; then the hidden words. What is
+// read alone comes last.
 constexpr const char* tabOrder[]
-    = {"Option1", "Command1", "Text1", "Command4", "Command6", "Command5", "Command16", "Command15",
-        "Command9", "Text2", "SwapLetters", "Command3", "Command13", "Command14", "Word1", "Word2",
-        "Word3", "Text6", "Text7", "Text8", "Command7", "Command10", "Check1", "List1"};
+    = {"Option1", "Command1", "Text1", "SwapLetters", "Command15", "Command4", "Command6",
+        "Command5", "Command16", "Command9", "Text2", "Command3", "Command13", "Command14", "Word1",
+        "Word2", "Word3", "Text6", "Text7", "Text8", "Command7", "Command10", "Check1", "List1"};
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "ui/flat_box.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -23,6 +24,23 @@ void UsedWordsList::SetWords(const std::vector<std::string>& words)
     for (; same < words.size(); ++same)
         addItem(QString::fromUtf8(words[same]));
     scrollToBottom();
+}
+
+// Up and Down walk the words and, at their ends, leave the list; so do Left and Right. Letters are
+// for the word that the player types.
+void UsedWordsList::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    const bool atTop = currentRow() <= 0;
+    const bool atBottom = currentRow() == count() - 1;
+    if (key == Qt::Key_Left || (key == Qt::Key_Up && atTop))
+        focusNextPrevChild(false);
+    else if (key == Qt::Key_Right || (key == Qt::Key_Down && atBottom))
+        focusNextPrevChild(true);
+    else if (event->text().isEmpty())
+        QListWidget::keyPressEvent(event);
+    else
+        event->ignore();
 }
 
 // The style marks the focus on a word of the list, and an empty list has none.

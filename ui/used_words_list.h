@@ -13,5 +13,6 @@ public:
     void SetWords(const std::vector<std::string>& words);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
