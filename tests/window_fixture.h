@@ -10,6 +10,8 @@
 #include "ui/system_platform.h"
 
 #include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -89,4 +91,6 @@ private:
     void Activate();
     void Type(const QString& row, const QString& text);
     void AnswerMessage();
+
+    QPointer<QMessageBox> met_; // was on view when it was last looked for
 };

@@ -6,6 +6,9 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QRegularExpression>
+
+#include <set>
 
 namespace {
 
@@ -150,6 +153,26 @@ TEST_F(Window, FocusGoesWherePlayGoesOn)
         Play(row.steps);
         EXPECT_EQ(Focused(), row.focused) << row.why;
     }
+}
+
+TEST_F(Window, MessagesStandInOnePlaceAndCoverNothingInPlay)
+{
+    std::set<std::pair<int, int>> corners;
+    whileOpen = [&] {
+        const QWidget& box = *QApplication::activeModalWidget();
+        corners.insert({box.geometry().right(), box.geometry().bottom()});
+        for (const QWidget* widget : window.findChildren<QWidget*>(QRegularExpression(
+                 "^(Text[129]|MyLetters|SwapLetters|Word[123]|YourScore|MyScore|Label5)"))) {
+            const QRect place(widget->mapToGlobal(QPoint()), widget->size());
+            EXPECT_FALSE(place.intersects(box.frameGeometry()))
+                << widget->objectName().toStdString() << " under " << messages.back();
+        }
+    };
+    answers = "nyy";
+    Play(start + "; you=planet; Command3; Command13; Command7; Command10; Command10");
+    list.Write("");
+    EXPECT_GT(messages.size(), 6U);
+    EXPECT_EQ(corners.size(), 1U);
 }
 
 TEST_F(Window, IsPlayedByKeyboard)

@@ -108,6 +108,15 @@ void MainWindow::Refresh()
     refreshed_ = true;
 }
 
+QRect MainWindow::RoomForMessages() const
+{
+    const QWidget& words = Find(controls_, "Frame2");
+    const QWidget& guess = Find(controls_, "Command7"); // below the hidden words
+    const QWidget& used = Find(controls_, "Frame7");
+    const QPoint topLeft(words.mapToGlobal(QPoint()).x(), guess.mapToGlobal(QPoint()).y());
+    return {topLeft, used.mapToGlobal(used.rect().bottomRight())};
+}
+
 void MainWindow::HoldSize()
 {
     if (!size_.Form_Resize())

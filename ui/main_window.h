@@ -22,6 +22,10 @@ public:
     // Shows the board, paints, and runs the pending input before it returns.
     void Refresh();
 
+    // The part of the board that messages may cover, in pixels of the screen: no letters, scores or
+    // hidden words, and not "YOUR GO".
+    QRect RoomForMessages() const;
+
 protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -1,0 +1,118 @@
+#include "ui/message_box.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include <algorithm>
+
+namespace {
+
+// The one question whose No changes nothing, so that the keys that are pressed without thinking
+// mean No. After the others, No ends the program: Enter means Yes there, and Escape nothing.
+bool NoIsHarmless(const QString& title)
+{
+    return title == QLatin1String("Do I win?");
+}
+
+class GameMessage : public QMessageBox {
+public:
+    GameMessage(QWidget& window, const QRect& room, const QString& text, const QString& title,
+        StandardButtons buttons)
+        : QMessageBox(NoIcon, title, text, buttons, &window)
+        , room_(room)
+    {
+        setTextFormat(Qt::PlainText);
+        setWindowModality(Qt::ApplicationModal);
+        setDefaultButton(NoIsHarmless(title) ? No : Yes);
+        Arrange();
+    }
+
+protected:
+    // Escape and closing the box are an answer only where the box has one for them. The toolkit
+    // would take them for No, which can end the program.
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (HasAnswerForEscape() || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (HasAnswerForEscape())
+            QMessageBox::closeEvent(event);
+        else
+            event->ignore();
+    }
+
+    // The size is known from here on, and the box is not on the screen yet.
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        const QPoint bottomRight = room_.bottomRight() - QPoint(margin, margin);
+        setGeometry(QRect(bottomRight - QPoint(width() - 1, height() - 1), size()));
+    }
+
+private:
+    bool HasAnswerForEscape() const { return buttons().size() == 1 || NoIsHarmless(windowTitle()); }
+
+    // The toolkit keeps room for an icon that is not there, and some desktops centre the buttons.
+    void Arrange()
+    {
+        auto* grid = qobject_cast<QGridLayout*>(layout());
+        if (QLayoutItem* indent = grid->itemAtPosition(0, 1); indent && indent->spacerItem())
+            indent->spacerItem()->changeSize(0, 0);
+        auto* text = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        text->setContentsMargins(0, 0, 0, 0);
+        const int widest = room_.width() - 2 * margin - grid->contentsMargins().left()
+            - grid->contentsMargins().right();
+        if (text->sizeHint().width() > widest) {
+            text->setWordWrap(true);
+            text->setFixedWidth(widest);
+        }
+        // Wide enough for the title to be read, beside the buttons that window managers add.
+        const int wide = std::min(fontMetrics().horizontalAdvance(windowTitle()) + 160, widest);
+        grid->addItem(new QSpacerItem(wide, 0), grid->rowCount(), 0, 1, grid->columnCount());
+        findChild<QDialogButtonBox*>()->setCenterButtons(false);
+        for (QAbstractButton* button : QMessageBox::buttons())
+            button->setIcon(QIcon());
+    }
+
+    static constexpr int margin = 8; // pixels between the box and the edges of the room
+
+    QRect room_;
+};
+
+// Keys and clicks that were under way before the box could be seen are not meant for it.
+class DropInput : public QObject {
+public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::TouchBegin:
+            return true;
+        default:
+            return false;
+        }
+    }
+};
+
+} // namespace
+
+QMessageBox::StandardButton AskPlayer(QWidget& window, const QRect& room, const QString& text,
+    const QString& title, QMessageBox::StandardButtons buttons)
+{
+    GameMessage box(window, room, text, title, buttons);
+    box.show();
+    DropInput dropInput;
+    qApp->installEventFilter(&dropInput);
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(&dropInput);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
