@@ -16,7 +16,8 @@ inline constexpr std::int16_t ledgerSlots = 250;
 inline constexpr std::int16_t fewestCandidates = 300;
 inline constexpr std::int16_t mostCandidates = 2000;
 
-// One box of a row: "" or one letter. In the guess rows it is whatever the player has typed.
+// One box of a row: "" or one letter, in UTF-8 as all texts. In the guess rows it is whatever the
+// player has typed.
 struct LetterBox {
     std::string Text;
     bool Enabled = true; // a disabled box takes no click
@@ -112,9 +113,9 @@ struct Board {
 
     // The computer: 0 while no level is chosen, else 1 (strongest) to 6; and its search.
     std::int16_t Level = 0;
-    std::array<unsigned char, 6> SortBuffer{}; // letters on their way through SortLetters
-    bool ComputerScored = false;               // the swap last tried made a word
-    std::int16_t FruitlessSwaps = 0;           // 0 to 4
+    std::array<char32_t, 6> SortBuffer{}; // letters on their way through SortLetters
+    bool ComputerScored = false;          // the swap last tried made a word
+    std::int16_t FruitlessSwaps = 0;      // 0 to 4
 
     // "Show Responses": 1 when ticked, 0 when clear.
     std::int16_t Check1 = 0;

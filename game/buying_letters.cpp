@@ -4,7 +4,7 @@
 #include "game/game.h"
 #include "game/game_view.h"
 #include "game/numbers.h"
-#include "game/rows.h"
+#include "lexicon/letters.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/platform.h"
+#include "lexicon/letters.h"
 
 #include <string>
 
@@ -12,12 +13,12 @@ inline int DrawNumber(Platform& platform, int n)
     return static_cast<int>(static_cast<double>(platform.DrawRandom()) * n + 1);
 }
 
-// Takes one letter out of a pool that is not empty, by one draw; those behind it close up.
-inline char TakeLetter(Platform& platform, std::string& pool)
+// Takes one letter out of a pool that is not empty, by one draw; those after it close up.
+inline std::string TakeLetter(Platform& platform, std::string& pool)
 {
-    const auto place
-        = static_cast<std::size_t>(DrawNumber(platform, static_cast<int>(pool.size())) - 1);
-    const char letter = pool[place];
-    pool.erase(place, 1);
+    const int place = DrawNumber(platform, static_cast<int>(CountLetters(pool)));
+    const std::string_view inPool = LetterOf(pool, place);
+    const std::string letter(inPool);
+    pool.erase(static_cast<std::size_t>(inPool.data() - pool.data()), letter.size());
     return letter;
 }

@@ -6,6 +6,7 @@
 #include "game/numbers.h"
 #include "game/rows.h"
 #include "game/start_of_game.h"
+#include "lexicon/letters.h"
 
 namespace {
 

@@ -1,7 +1,6 @@
 #include "game/rows.h"
 
 #include <algorithm>
-#include <cassert>
 
 std::string Spell(const LetterRow& row)
 {
@@ -9,12 +8,6 @@ std::string Spell(const LetterRow& row)
     for (const LetterBox& box : row)
         word += box.Text;
     return word;
-}
-
-std::string LetterOf(const std::string& word, int k)
-{
-    assert(k >= 1 && static_cast<std::size_t>(k) <= word.size());
-    return {word[static_cast<std::size_t>(k) - 1]};
 }
 
 bool HasEmptyBox(const LetterRow& row)

@@ -1,4 +1,4 @@
-// Rows of boxes, buttons and frames that the rules take together, and the letters of a word.
+// Rows of boxes, buttons and frames that the rules take together.
 #pragma once
 
 #include "game/board.h"
@@ -9,9 +9,6 @@
 
 // The texts of boxes 1 to 6, joined.
 std::string Spell(const LetterRow& row);
-
-// Letter number k of a word, counted from 1, as a box shows it.
-std::string LetterOf(const std::string& word, int k);
 
 bool HasEmptyBox(const LetterRow& row);
 bool HoldsLetters(const LetterRow& row);

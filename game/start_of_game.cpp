@@ -6,19 +6,23 @@
 #include "game/game_view.h"
 #include "game/numbers.h"
 #include "game/rows.h"
+#include "lexicon/letters.h"
 #include "lexicon/lexicon_file.h"
 #include "lexicon/passes.h"
 
+#include <cstdint>
 #include <exception>
 
 namespace {
 
-constexpr std::size_t wordLength = 6;
-
-// A long list can allow three first letters and yet make them so rare that no draw would meet them
-// while a player waits. A try reads the list about one and a half times, so that the drawing ends
-// after some seconds; a list of a few hundred words is never given up, however lopsided it is.
-constexpr int mostRecordsDrawnFrom = 1'000'000'000;
+// A list can allow three first letters and yet make them so rare that no draw would meet them while
+// a player waits. So many bytes are read in about a second; a game is given up after them, unless
+// at least one try in a thousand succeeds. Then one of the first twenty thousand will.
+constexpr std::uint64_t bytesToDrawFrom = 2'000'000'000;
+constexpr std::uint64_t bytesAnOpeningCosts
+    = 10'000; // which take as long to read as a file to open
+constexpr double fairChance = 0.001;
+constexpr std::uint64_t mostTries = 20'000;
 
 void ClearLastGame(Board& board)
 {
@@ -36,35 +40,47 @@ void ClearLastGame(Board& board)
 
 // A try can succeed when the records that a position reaches have three first letters, or have two
 // and the word that position 0 keeps brings the third.
-bool TryCanSucceed(const FirstLetters& drawable, const std::string& currentWord)
+bool TryCanSucceed(const std::u32string& drawable, std::string_view currentWord)
 {
-    if (drawable.count() == 2 && !currentWord.empty())
-        return !drawable.test(static_cast<unsigned char>(currentWord.front()));
-    return drawable.count() >= 3;
+    if (drawable.size() == 2 && !currentWord.empty())
+        return drawable.find(TakeFirstLetter(currentWord)) == std::u32string::npos;
+    return drawable.size() >= 3;
 }
 
 bool FirstLettersDiffer(const Board& board)
 {
-    const char first = board.HiddenWords(1).front();
-    const char second = board.HiddenWords(2).front();
-    const char third = board.HiddenWords(3).front();
+    const std::string_view first = LetterOf(board.HiddenWords(1), 1);
+    const std::string_view second = LetterOf(board.HiddenWords(2), 1);
+    const std::string_view third = LetterOf(board.HiddenWords(3), 1);
     return first != second && first != third && second != third;
 }
 
-void DrawHiddenWords(Game& game, LexiconFile& lexicon, const FirstLetters& drawable)
+void DrawThreeWords(Game& game, LexiconFile& lexicon)
 {
     Board& board = game.board;
-    for (int drawnFrom = 0; drawnFrom < mostRecordsDrawnFrom; drawnFrom += board.WordCount) {
-        if (!TryCanSucceed(drawable, board.CurrentWord))
-            break;
-        for (int slot = 1; slot <= 3; ++slot) {
-            PickRandomWord(lexicon, board.WordCount, game.platform.DrawRandom(), board.CurrentWord);
-            if (board.CurrentWord.size() != wordLength)
-                throw LexiconError("a drawn record is not six letters long");
-            board.HiddenWords(slot) = board.CurrentWord;
-        }
+    for (int slot = 1; slot <= 3; ++slot) {
+        const float draw = game.platform.DrawRandom();
+        if (const auto picked = PickRandomWord(lexicon, board.WordCount, draw))
+            board.CurrentWord = *picked;
+        if (CountLetters(board.CurrentWord) != lettersPerWord)
+            throw LexiconError("a drawn record is not six letters long");
+        board.HiddenWords(slot) = board.CurrentWord;
+    }
+}
+
+void DrawHiddenWords(Game& game, LexiconFile& lexicon, const std::u32string& drawable)
+{
+    Board& board = game.board;
+    bool fair = false;
+    for (std::uint64_t tries = 1; TryCanSucceed(drawable, board.CurrentWord); ++tries) {
+        DrawThreeWords(game, lexicon);
         if (FirstLettersDiffer(board))
             return;
+        if (lexicon.BytesRead() + 3 * tries * bytesAnOpeningCosts < bytesToDrawFrom)
+            continue;
+        fair = fair || ChanceOfThreeFirstLetters(lexicon, board.WordCount) >= fairChance;
+        if (!fair || tries >= mostTries)
+            break;
     }
     throw LexiconError("the word list gives no three words with different first letters");
 }
@@ -80,11 +96,11 @@ void FillCandidates(Board& board, LexiconFile& lexicon)
     // A click that ran inside the repaint may have begun a game of its own and left its words here.
     board.CandidateCount = 0;
     do {
-        const std::int16_t before = board.CandidateCount;
-        CollectCandidates(lexicon, board.WordCount, HiddenLetters(board),
-            {board.Candidates.begin(), board.Candidates.end()}, board.CandidateCount);
-        if (board.CandidateCount == before)
+        const std::int16_t found = CollectCandidates(lexicon, board.WordCount, HiddenLetters(board),
+            {board.Candidates.begin() + board.CandidateCount, board.Candidates.end()});
+        if (found == 0)
             throw LexiconError("the letters can make no word of the word list");
+        board.CandidateCount = static_cast<std::int16_t>(board.CandidateCount + found);
     } while (board.CandidateCount < fewestCandidates);
 }
 
@@ -106,8 +122,10 @@ void StartGame(Game& game)
 {
     Board& board = game.board;
     LexiconFile lexicon(game.lexicon);
-    const FirstLetters drawable = CountWords(lexicon, board.WordCount, board.CurrentWord);
-    DrawHiddenWords(game, lexicon, drawable);
+    const WordCount counted = CountWords(lexicon);
+    board.WordCount = counted.records;
+    board.CurrentWord = counted.last;
+    DrawHiddenWords(game, lexicon, counted.firstLetters);
     DealLetters(game);
     FillCandidates(board, lexicon);
     board.Caption += "   No. Of words with these letters: " + PaddedForm(board.CandidateCount);

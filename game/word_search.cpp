@@ -8,36 +8,22 @@
 #include "game/rows.h"
 #include "game/scoring.h"
 #include "game/start_of_game.h"
+#include "lexicon/letters.h"
 
 #include <algorithm>
-#include <array>
 #include <cassert>
 #include <cmath>
 #include <string_view>
 
 namespace {
 
-// Behind the last letter of a short word stands 0.
+// After the last letter of a short word stands 0; of a long one, the first six letters count.
 void FillSortBuffer(Board& board, std::string_view word)
 {
     board.SortBuffer.fill(0);
-    std::copy_n(
-        word.begin(), std::min(word.size(), board.SortBuffer.size()), board.SortBuffer.begin());
-}
-
-// No branch depends on the letters: a go of the computer sorts up to 72,000 words.
-void PutInOrder(unsigned char& left, unsigned char& right)
-{
-    const unsigned char less = std::min(left, right);
-    right = std::max(left, right);
-    left = less;
-}
-
-// One by one, since most words differ in the first. To compare all six at once is slower: it would
-// wait for the sort to store the last of them.
-bool HasSorted(const Board& board, const std::array<unsigned char, 6>& sorted)
-{
-    return std::ranges::mismatch(board.SortBuffer, sorted).in2 == sorted.end();
+    for (auto slot = board.SortBuffer.begin(); slot != board.SortBuffer.end() && !word.empty();
+        ++slot)
+        *slot = TakeFirstLetter(word);
 }
 
 // The number of candidates that the level lets the computer look at. Halves go to the even number,
@@ -69,15 +55,20 @@ void PlayWord(Game& game, const std::string& word)
 void SearchForWord(Game& game)
 {
     Board& board = game.board;
-    FillSortBuffer(board, Spell(board.MyLetters));
+    const std::string row = Spell(board.MyLetters);
+    const std::uint64_t bitsOfRow = BitsOf(row);
+    FillSortBuffer(board, row);
     SortLetters(board);
     const auto sortedRow = board.SortBuffer;
     const int span = SearchSpan(board);
     for (int k = 1; k <= span; ++k) {
         const std::string& candidate = board.Candidates(k);
+        // The same letters take the same number of bytes. Few candidates come past this line.
+        if (BitsOf(std::string_view(candidate).substr(0, row.size())) != bitsOfRow)
+            continue;
         FillSortBuffer(board, candidate);
         SortLetters(board);
-        if (!HasSorted(board, sortedRow))
+        if (board.SortBuffer != sortedRow)
             continue;
         board.ProbeWord = candidate;
         CheckWordUsed(board);
@@ -91,19 +82,5 @@ void SearchForWord(Game& game)
 
 void SortLetters(Board& board)
 {
-    // Six letters are in order after these twelve steps, whatever order they came in.
-    auto [a, b, c, d, e, f] = board.SortBuffer;
-    PutInOrder(a, f);
-    PutInOrder(b, d);
-    PutInOrder(c, e);
-    PutInOrder(b, c);
-    PutInOrder(d, e);
-    PutInOrder(a, d);
-    PutInOrder(c, f);
-    PutInOrder(a, b);
-    PutInOrder(c, d);
-    PutInOrder(e, f);
-    PutInOrder(b, c);
-    PutInOrder(d, e);
-    board.SortBuffer = {a, b, c, d, e, f};
+    std::ranges::sort(board.SortBuffer);
 }

@@ -9,5 +9,5 @@ struct Game;
 // ComputerScored tells whether a word was played.
 void SearchForWord(Game& game);
 
-// Puts the letters of SortBuffer in ascending order, by character code.
+// Puts the letters of SortBuffer in ascending order, by code point.
 void SortLetters(Board& board);

@@ -3,6 +3,7 @@
 #include "game/board.h"
 #include "game/numbers.h"
 #include "game/rows.h"
+#include "lexicon/letters.h"
 
 #include <algorithm>
 #include <span>

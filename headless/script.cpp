@@ -5,6 +5,7 @@
 #include "game/rows.h"
 #include "headless/board_text.h"
 #include "headless/spelling.h"
+#include "lexicon/letters.h"
 
 #include <algorithm>
 #include <sstream>

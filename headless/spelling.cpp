@@ -1,7 +1,7 @@
 #include "headless/spelling.h"
 
 #include "game/board.h"
-#include "game/rows.h"
+#include "lexicon/letters.h"
 
 #include <algorithm>
 
@@ -26,7 +26,7 @@ std::vector<Move> MovesFor(const Board& board, const std::string& word)
     std::vector<Move> layOut;
     std::string wanted;
     for (int k = 1; k <= 6; ++k) {
-        const std::string letter = LetterOf(word, k);
+        const std::string letter(LetterOf(word, k));
         const std::int16_t box = BoxOf(own, letter);
         layOut.push_back({"Text2", box});
         if (box != 0)

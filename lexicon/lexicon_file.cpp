@@ -1,29 +1,78 @@
 #include "lexicon/lexicon_file.h"
 
+#include "lexicon/encoding.h"
+
 #include <algorithm>
-#include <cstdint>
+#include <bit>
+#include <cstdio>
 #include <cstring>
 #include <utility>
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
-constexpr std::size_t firstBufferSize = 65536; // a list of 9000 six-letter words at one read
-// A dozen times what 32767 records of six letters take. A damaged disk can show a file of any size,
-// and the longest record of one has to fit in memory.
-constexpr std::uintmax_t largestFile = 4'000'000;
+// Several times what 32767 records of six letters take. A damaged disk can show a file of any size.
+constexpr std::size_t largestFile = 4'000'000;
+constexpr std::size_t firstBuffer = 65536; // a list of 9000 six-letter words
 
-constexpr char sentinel = ','; // ends a field, and makes no line end with a CR in front of it
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+// Nothing when the path leads to no file that can be opened and has an end.
+File OpenRegularFile(const std::filesystem::path& path)
+{
+#ifdef _WIN32
+    std::error_code error;
+    const bool regular = std::filesystem::is_regular_file(path, error);
+    return {regular ? std::fopen(path.string().c_str(), "rb") : nullptr, std::fclose};
+#else
+    // What is opened is looked at, and not what stood there before; and nothing waits for a writer.
+    const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat status = {};
+    if (descriptor >= 0 && (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))) {
+        close(descriptor);
+        return {nullptr, std::fclose};
+    }
+    return {descriptor >= 0 ? fdopen(descriptor, "rb") : nullptr, std::fclose};
+#endif
+}
 
 bool EndsField(char letter)
 {
     return letter == ',' || letter == '\n' || letter == '\r';
 }
 
-// CR and LF together are one line end.
-const char* BehindSeparator(const char* separator)
+// Where the field ends that begins here: at a separator, or at the end of the text. Eight bytes are
+// looked at together, since a branch for each costs more than all else that a pass does.
+const char* EndOfField(const char* at, const char* end)
 {
-    return separator + (separator[0] == '\r' && separator[1] == '\n' ? 2 : 1);
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    while (std::endian::native == std::endian::little && end - at >= 8) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, at, 8);
+        // The upper bit of each byte that is no greater than a comma, and perhaps of some after it.
+        std::uint64_t low = (eight - ones * (',' + 1)) & ~eight & (ones * 0x80);
+        for (; low != 0; low &= low - 1) {
+            const char* found = at + std::countr_zero(low) / 8;
+            if (EndsField(*found))
+                return found;
+        }
+        at += 8;
+    }
+    return std::find_if(at, end, EndsField);
+}
+
+// What comes after the separator that stands here. CR and LF together are one.
+const char* AfterSeparator(const char* at, const char* end)
+{
+    const bool two = *at == '\r' && end - at >= 2 && at[1] == '\n';
+    return at + (two ? 2 : 1);
 }
 
 } // namespace
@@ -35,85 +84,60 @@ LexiconFile::LexiconFile(std::filesystem::path path)
 
 void LexiconFile::Open()
 {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path_, error))
-        throw LexiconError("no such word list: " + path_.string());
-    if (std::filesystem::file_size(path_, error) > largestFile)
+    Close();
+    const File file = OpenRegularFile(path_);
+    if (!file)
+        throw LexiconError("no word list to read: " + path_.string());
+    std::setvbuf(file.get(), nullptr, _IONBF, 0); // all of it is read at once
+    std::size_t size = 0;
+    do {
+        if (size == bytes_.size())
+            bytes_.resize(std::max(firstBuffer, 2 * size));
+        size += std::fread(bytes_.data() + size, 1, bytes_.size() - size, file.get());
+    } while (size == bytes_.size() && size <= largestFile);
+    if (std::ferror(file.get()) != 0)
+        throw LexiconError("cannot read the word list " + path_.string());
+    if (size > largestFile)
         throw LexiconError("too large for a word list: " + path_.string());
-    file_.reset(std::fopen(path_.string().c_str(), "rb"));
-    if (!file_)
-        throw LexiconError("cannot open the word list " + path_.string());
-    std::setvbuf(file_.get(), nullptr, _IONBF, 0); // the buffer below is the only one
-    if (buffer_.empty())
-        buffer_.resize(firstBufferSize);
-    next_ = whole_ = filled_ = 0;
-    if (ReadOn() && std::string_view(buffer_.data(), whole_).starts_with(byteOrderMark))
-        next_ = byteOrderMark.size();
+    bytesRead_ += size;
+
+    std::string_view text(bytes_.data(), size);
+    if (text.starts_with(byteOrderMark))
+        text.remove_prefix(byteOrderMark.size());
+    if (text.find('\0') != std::string_view::npos)
+        throw LexiconError("the word list is no text: " + path_.string());
+    if (!IsUtf8(text))
+        text = translated_ = Utf8OfWindows1252(text);
+    next_ = text.data();
+    end_ = next_ + text.size();
 }
 
 std::string_view LexiconFile::ReadRecord()
 {
     if (AtEnd())
         throw LexiconError("read past the end of the word list");
-    const char* begin = buffer_.data() + next_;
-    while (*begin == ' ')
+    const char* begin = next_;
+    while (begin != end_ && *begin == ' ')
         ++begin;
-    if (*begin == '"')
+    if (begin != end_ && *begin == '"')
         return ReadQuoted(begin + 1);
-    const char* end = begin;
-    while (!EndsField(*end))
-        ++end;
-    next_ = static_cast<std::size_t>(BehindSeparator(end) - buffer_.data());
+    const char* end = EndOfField(begin, end_);
+    next_ = end == end_ ? end : AfterSeparator(end, end_);
     return {begin, end};
 }
 
 void LexiconFile::Close()
 {
-    file_.reset();
+    next_ = end_ = nullptr;
 }
 
-// Reads on until more whole lines, or the rest of the file, stand behind next_; what is before it
-// goes. False when the file has no more. The buffer grows only for a line longer than itself.
-bool LexiconFile::ReadOn()
-{
-    if (!file_)
-        throw LexiconError("the word list is not open");
-    next_ = std::min(next_, filled_); // it has gone behind the sentinel with the last record
-    std::memmove(buffer_.data(), buffer_.data() + next_, filled_ - next_);
-    const std::size_t wholeBefore = whole_ - next_;
-    filled_ -= next_;
-    next_ = 0;
-    std::size_t got = 0;
-    do {
-        if (filled_ + 1 == buffer_.size())
-            buffer_.resize(2 * buffer_.size());
-        const std::size_t room = buffer_.size() - filled_ - 1;
-        got = std::fread(buffer_.data() + filled_, 1, room, file_.get());
-        if (got == 0 && std::ferror(file_.get()) != 0)
-            throw LexiconError("cannot read the word list " + path_.string());
-        filled_ += got;
-        whole_ = std::string_view(buffer_.data(), filled_).rfind('\n') + 1;
-    } while (got != 0 && whole_ <= wholeBefore);
-    if (got == 0)
-        whole_ = filled_; // the last line needs no end
-    buffer_[filled_] = sentinel;
-    return whole_ != wholeBefore;
-}
-
-// `begin` is behind the opening mark.
+// `begin` is after the opening mark.
 std::string_view LexiconFile::ReadQuoted(const char* begin)
 {
-    next_ = static_cast<std::size_t>(begin - buffer_.data());
-    const auto rest = [this] { return std::string_view(buffer_.data() + next_, whole_ - next_); };
-    while (rest().find('"') == std::string_view::npos && ReadOn()) { }
-    const std::string_view record = rest().substr(0, rest().find('"'));
-    const char* behind = record.data() + record.size();
-    if (record.size() != rest().size())
-        ++behind;
-    while (*behind == ' ')
-        ++behind;
-    if (EndsField(*behind))
-        behind = BehindSeparator(behind);
-    next_ = static_cast<std::size_t>(behind - buffer_.data());
-    return record;
+    const char* end = std::find(begin, end_, '"');
+    const char* after = end == end_ ? end : end + 1;
+    while (after != end_ && *after == ' ')
+        ++after;
+    next_ = after != end_ && EndsField(*after) ? AfterSeparator(after, end_) : after;
+    return {begin, end};
 }

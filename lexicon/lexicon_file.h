@@ -1,16 +1,16 @@
 // The sequential reader of the word list: one text field after another, from the first to the last.
 //
-// A record ends at a comma or at the end of a line (LF, CRLF or CR), which is consumed with it.
-// Blanks in front of it are skipped; blanks behind it belong to it. A record that opens with a
-// double quotation mark runs to the next one, or to the end of the file; behind the closing mark,
-// blanks and one comma or line end are consumed. A byte order mark in front of the file is skipped.
+// The file is UTF-8 or, if it is not valid as a whole, Windows-1252; records are given in UTF-8. A
+// byte order mark in front is skipped. A record ends at a comma or at the end of a line (LF, CRLF
+// or CR), which is consumed with it. Blanks in front of it are skipped; blanks after it belong to
+// it. A record that opens with a double quotation mark runs to the next one, or to the end of the
+// file; after the closing mark, blanks and one comma or line end are consumed.
 #pragma once
 
-#include <cstddef>
-#include <cstdio>
+#include <cstdint>
 #include <filesystem>
-#include <memory>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -24,35 +24,30 @@ class LexiconFile {
 public:
     explicit LexiconFile(std::filesystem::path path);
 
-    // Opens the file at its first record. Throws LexiconError when it is missing, is no regular
-    // file (a pipe or a device could keep the game waiting), is larger than four million bytes or
-    // cannot be opened or read.
+    // Reads the file whole; the first record comes next. Throws LexiconError when it is missing, is
+    // no regular file (a pipe or a device could keep the game waiting), is larger than four million
+    // bytes, cannot be opened or read, or is no text: a byte of it is zero, as in UTF-16, or stands
+    // for nothing in Windows-1252.
     void Open();
 
-    // True when no byte is left. Throws LexiconError when the file cannot be read.
-    bool AtEnd() { return next_ >= whole_ && !ReadOn(); }
+    bool AtEnd() const { return next_ == end_; }
 
-    // The next record, in place until the next call. Throws LexiconError past the end of the file
-    // or when it cannot be read.
+    // The next record, in place until the file is opened again or closed. Throws LexiconError past
+    // the end.
     std::string_view ReadRecord();
 
     void Close();
 
-private:
-    struct Closer {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
+    // The bytes that all openings so far have read.
+    std::uint64_t BytesRead() const { return bytesRead_; }
 
-    bool ReadOn();
+private:
     std::string_view ReadQuoted(const char* begin);
 
     std::filesystem::path path_;
-    std::unique_ptr<std::FILE, Closer> file_;
-
-    // The one buffer. It is searched no further than the last line end in it, or the end of the
-    // file, where a sentinel stands: a record needs no bound, for it always ends before.
-    std::vector<char> buffer_;
-    std::size_t next_ = 0;
-    std::size_t whole_ = 0;
-    std::size_t filled_ = 0;
+    std::vector<char> bytes_;
+    std::string translated_; // from Windows-1252
+    std::uint64_t bytesRead_ = 0;
+    const char* next_ = nullptr;
+    const char* end_ = nullptr;
 };

@@ -1,108 +1,162 @@
 #include "lexicon/passes.h"
 
+#include "lexicon/letters.h"
 #include "lexicon/lexicon_file.h"
 
+#include <algorithm>
 #include <array>
+#include <cassert>
 #include <limits>
+#include <map>
 
 namespace {
 
-constexpr std::size_t lettersPerWord = 6;
-constexpr unsigned char taken = '*'; // stands for a letter that a word has used
+constexpr char mark = '*'; // stands for a letter that a word has used
 
 // The letters of a pool, told by how many there are of each.
 class LetterPool {
 public:
     explicit LetterPool(std::string_view letters)
     {
-        missing_.fill(true);
-        missing_[taken] = false;
-        for (const char letter : letters) {
-            ++left_[static_cast<unsigned char>(letter)];
-            missing_[static_cast<unsigned char>(letter)] = false;
+        strange_.fill(true);
+        strange_[mark] = false;
+        for (const char byte : letters)
+            strange_[static_cast<unsigned char>(byte)] = false;
+        while (!letters.empty()) {
+            const char32_t letter = TakeFirstLetter(letters);
+            if (letter >= firstLong && longLetters_.find(letter) == std::u32string::npos)
+                longLetters_ += letter;
+            assert(longLetters_.size() < mostLong);
+            ++count_[PlaceOf(letter)];
         }
     }
 
+    // Most words fail at their first six bytes, which are never more than six letters.
     bool CanSpell(std::string_view word) const
     {
-        return word.size() >= lettersPerWord && HasAllLetters(word) && HasEachOftenEnough(word);
+        return word.size() >= lettersPerWord
+            && !HasStrange(word, std::make_index_sequence<lettersPerWord>{})
+            && HasEachOftenEnough(word);
     }
 
 private:
-    // Most words fail here: one look-up a letter and one branch a word.
-    bool HasAllLetters(std::string_view word) const
+    static constexpr char32_t firstLong = 0x80; // code point of the first with more than one byte
+    static constexpr std::size_t mostLong = 20;
+
+    // Written out for each byte, with no branch.
+    template <std::size_t... K>
+    bool HasStrange(std::string_view word, std::index_sequence<K...> /*bytes*/) const
     {
-        bool missing = false;
-        for (std::size_t k = 0; k < lettersPerWord; ++k)
-            missing |= missing_[static_cast<unsigned char>(word[k])];
-        return !missing;
+        return (strange_[static_cast<unsigned char>(word[K])] + ...) != 0;
     }
 
-    // Meant: a letter once used becomes a mark in the pool, and a record that holds the mark itself
-    // finds it there.
     bool HasEachOftenEnough(std::string_view word) const
     {
-        auto left = left_;
-        for (std::size_t k = 0; k < lettersPerWord; ++k) {
-            const auto letter = static_cast<unsigned char>(word[k]);
-            if (left[letter] == 0)
+        auto left = count_;
+        for (std::size_t k = 1; k <= lettersPerWord; ++k) {
+            if (word.empty())
                 return false;
-            --left[letter];
-            ++left[taken];
+            const char32_t letter = TakeFirstLetter(word);
+            auto& leftOfIt = left[PlaceOf(letter)];
+            // Meant: a letter once used becomes a mark in the pool, and a record that holds the
+            // mark itself finds it there.
+            if (leftOfIt > 0)
+                --leftOfIt;
+            else if (letter != mark || k == 1)
+                return false;
         }
         return true;
     }
 
-    std::array<std::uint8_t, 256> left_{};
-    std::array<bool, 256> missing_{};
+    // Where the letter is counted. Long ones that the pool has not share a place.
+    std::size_t PlaceOf(char32_t letter) const
+    {
+        if (letter < firstLong)
+            return letter;
+        return firstLong + std::min(longLetters_.find(letter), longLetters_.size());
+    }
+
+    std::array<bool, 256> strange_; // bytes that no letter of the pool has
+    std::u32string longLetters_;
+    std::array<std::uint8_t, firstLong + mostLong> count_{};
 };
 
 } // namespace
 
-FirstLetters CountWords(LexiconFile& lexicon, std::int16_t& wordCount, std::string& currentWord)
+WordCount CountWords(LexiconFile& lexicon)
 {
-    FirstLetters drawable;
-    wordCount = 0;
+    WordCount counted;
+    std::string_view last;
     lexicon.Open();
     while (!lexicon.AtEnd()) {
-        if (wordCount > 0 && !currentWord.empty())
-            drawable.set(static_cast<unsigned char>(currentWord.front()));
-        currentWord = lexicon.ReadRecord();
-        if (wordCount == std::numeric_limits<std::int16_t>::max())
+        if (counted.firstLetters.size() < 3 && !last.empty()) {
+            const char32_t letter = TakeFirstLetter(last);
+            if (counted.firstLetters.find(letter) == std::u32string::npos)
+                counted.firstLetters += letter;
+        }
+        last = lexicon.ReadRecord();
+        if (counted.records == std::numeric_limits<std::int16_t>::max())
             throw LexiconError("the word list has more than 32767 records");
-        ++wordCount;
+        ++counted.records;
     }
+    counted.last = last;
     lexicon.Close();
-    return drawable;
+    return counted;
 }
 
-void PickRandomWord(
-    LexiconFile& lexicon, std::int16_t wordCount, float draw, std::string& currentWord)
+std::optional<std::string> PickRandomWord(LexiconFile& lexicon, std::int16_t wordCount, float draw)
 {
     const int position = static_cast<int>(static_cast<double>(draw) * wordCount);
+    std::optional<std::string> word;
     lexicon.Open();
     for (int read = 1; read < position; ++read)
         lexicon.ReadRecord();
     if (position > 0)
-        currentWord = lexicon.ReadRecord();
+        word = lexicon.ReadRecord();
     lexicon.Close();
+    return word;
 }
 
-void CollectCandidates(LexiconFile& lexicon, std::int16_t wordCount, std::string_view pool,
-    std::span<std::string> candidates, std::int16_t& count)
+double ChanceOfThreeFirstLetters(LexiconFile& lexicon, std::int16_t wordCount)
+{
+    std::map<char32_t, int> records;
+    lexicon.Open();
+    for (int read = 1; read < wordCount; ++read) {
+        std::string_view record = lexicon.ReadRecord();
+        if (!record.empty())
+            ++records[TakeFirstLetter(record)];
+    }
+    lexicon.Close();
+    // The sums of the products of one, two and three different shares.
+    double ones = 0;
+    double twos = 0;
+    double threes = 0;
+    for (const auto& [letter, count] : records) {
+        const double share = static_cast<double>(count) / wordCount;
+        threes += twos * share;
+        twos += ones * share;
+        ones += share;
+    }
+    return 6 * threes; // in any order
+}
+
+std::int16_t CollectCandidates(LexiconFile& lexicon, std::int16_t wordCount, std::string_view pool,
+    std::span<std::string> slots)
 {
     const LetterPool letters(pool);
+    std::size_t found = 0;
     lexicon.Open();
     for (int read = 0; read < wordCount; ++read) {
         const std::string_view word = lexicon.ReadRecord();
         if (!letters.CanSpell(word))
             continue;
-        if (static_cast<std::size_t>(count) == candidates.size())
+        if (found == slots.size())
             throw LexiconError("the letters can make more words than the list of candidates holds");
-        candidates[static_cast<std::size_t>(count)] = word;
-        ++count;
+        slots[found] = word;
+        ++found;
     }
     lexicon.Close();
+    return static_cast<std::int16_t>(found);
 }
 
 bool FindWord(LexiconFile& openLexicon, std::string_view word)

@@ -72,13 +72,14 @@ TEST(HostileLists, StartAGameOrEndInTheMessage)
         {"two first letters, then an empty line", "planet\ngarden\nplanet\n\n", false},
         {"words of 1 to 1000 letters", longer, false},
         {"UTF-16", utf16, false},
-        {"UTF-8, seven bytes", "plan\xC3\xA8t\n\xC3\xA9tages\nv\xC3\xAAture\n", false},
-        {"UTF-8, six bytes", "pl\xC3\xA8ts\nm\xC3\xAAles\n\xC3\xA9tage\nvois\xC3\xA9\nvois\xC3\xA9",
-            true},
+        {"six letters in seven bytes", "planèt\nétages\nvêture\nallées\nallées\n", true},
+        {"six bytes for five letters", "plèts\nmêles\nétage\nvoisé\nvoisé", false},
+        {"Windows-1252", "plan\xE8t\n\xE9tages\nv\xEAture\nall\xE9\x65s\nall\xE9\x65s\n", true},
+        {"a byte of neither encoding", "planet\ngarden\nsimple\nnested\n\x81imple\n", false},
         {"no line end, commas and blanks", "planet,  garden,simple,nested, simple", true},
         {"capitals and small letters", "PLANET\nplanet\nGarden\nSIMPLE\nplanet", true},
         {"zeros for letters",
-            std::string("a\0\0\0\0\0\nb\0\0\0\0\0\nc\0\0\0\0\0\nd\0\0\0\0\0\n", 28), true},
+            std::string("a\0\0\0\0\0\nb\0\0\0\0\0\nc\0\0\0\0\0\nd\0\0\0\0\0\n", 28), false},
     };
     for (const Row& row : rows)
         EXPECT_EQ(Starts(WordListFile(row.bytes).Path()), row.starts) << row.list;
@@ -123,19 +124,39 @@ TEST(HostileLists, ChangeBeforeTheStartOrBetweenItsPasses)
     }
 }
 
-// The reader holds the first of the list when the rest of it goes.
-TEST(HostileLists, CutShortInTheMiddleOfAPass)
+// Different words, so many of which begin with "b", as many with "c" and the rest with "a".
+std::string LopsidedList(int count, int others, int blanks)
 {
-    const WordListFile list(manyWords);
-    LexiconFile lexicon(list.Path());
-    lexicon.Open();
-    EXPECT_EQ(lexicon.ReadRecord(), "planet");
-    list.Write("");
-    int records = 1;
-    for (; !lexicon.AtEnd(); ++records)
-        lexicon.ReadRecord();
-    EXPECT_LT(records, 25'000);
-    EXPECT_THROW(lexicon.ReadRecord(), LexiconError);
+    std::string bytes;
+    for (int k = 0; k < count; ++k) {
+        bytes += std::string(static_cast<std::size_t>(blanks), ' ');
+        bytes += k < others ? 'b' : k < 2 * others ? 'c' : 'a';
+        bytes += std::to_string(100'000 + k).substr(1) + "\n";
+    }
+    return bytes;
+}
+
+// Work is counted and not timed: no draw of a word reads the list more than once.
+TEST(HostileLists, DrawingEndsAfterSoManyBytes)
+{
+    struct Row {
+        const char* list;
+        std::string bytes;
+        bool starts;
+        int mostDraws;
+    };
+    const Row rows[] = {
+        {"one try in a thousand", LopsidedList(3000, 39, 0), true, 60'000},
+        {"one in 180 million", LopsidedList(32'767, 1, 0), false, 9000},
+        {"the same in the largest file", LopsidedList(32'767, 1, 115), false, 600},
+    };
+    for (const Row& row : rows) {
+        const WordListFile list(row.bytes);
+        HeadlessGame game(list.Path(), HeadlessPlatform(1));
+        game.Play("Option1:1 Command1");
+        EXPECT_EQ(!game.Ended(), row.starts) << row.list;
+        EXPECT_LE(game.platform.taken, row.mostDraws) << row.list;
+    }
 }
 
 } // namespace

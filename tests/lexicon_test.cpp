@@ -2,6 +2,7 @@
 
 #include "headless/headless_platform.h"
 #include "headless/word_list_file.h"
+#include "lexicon/letters.h"
 #include "lexicon/lexicon_file.h"
 #include "lexicon/passes.h"
 
@@ -42,11 +43,6 @@ TEST(LexiconFile, ReadsRecords)
             "\xEF\xBB\xBF"
             "a\nb",
             {"a", "b"}},
-        {"half a mark is text",
-            "\xEF\xBB"
-            "a",
-            {"\xEF\xBB"
-             "a"}},
         {"commas end a field", "a,b,,c", {"a", "b", "", "c"}},
         {"a comma at the line end leaves an empty field", "a,\nb", {"a", "", "b"}},
         {"an empty line is a record", "a\n\nb", {"a", "", "b"}},
@@ -58,12 +54,20 @@ TEST(LexiconFile, ReadsRecords)
         {"text behind the mark is the next record", "\"a\"b\nc", {"a", "b", "c"}},
         {"an open quotation runs to the end", "a\n\"b,c\nd\n", {"a", "b,c\nd\n"}},
         {"a mark within a field is text", "a\"b\"\n", {"a\"b\""}},
-        {"bytes above 127 and zero", std::string("\xFF\0\n\x80", 4),
-            {std::string("\xFF\0", 2), "\x80"}},
-        {"records longer than the buffer", longWord + "\n\"" + longWord + "\"\r\na\r\n",
-            {longWord, longWord, "a"}},
-        {"a line end astride two reads", std::string(65'534, 'x') + "\r\nb",
-            {std::string(65'534, 'x'), "b"}},
+        {"long records", longWord + "\n\"" + longWord + "\"\r\na\r\n", {longWord, longWord, "a"}},
+        {"UTF-8 of one to four bytes", "aé\n€😀", {"aé", "€😀"}},
+        {"nothing is composed", "e\u0301\né", {"e\u0301", "é"}},
+        {"Windows-1252 when it is no UTF-8", "b\xFC\x63her\n\x80\x9F", {"bücher", "€Ÿ"}},
+        {"as a whole, so that UTF-8 beside it goes wrong", "é\n\xFC", {"Ã©", "ü"}},
+        {"a letter of UTF-8 cut short", "\n\xC3", {"", "Ã"}},
+        {"a letter longer than it need be", "\xC0\xAF", {"À¯"}},
+        {"a surrogate", "\xED\xA0\x80", {"í\u00A0€"}},
+        {"beyond the last letter", "\xF4\xBF\xBF\xBF", {"ô¿¿¿"}},
+        {"half a byte order mark",
+            "\xEF\xBB"
+            "a",
+            {"ï»a"}},
+        {"a byte order mark in front of Windows-1252", "\xEF\xBB\xBF\xFC", {"ü"}},
     };
     for (const RecordCase& row : cases)
         EXPECT_EQ(Records(WordListFile(row.bytes).Path()), row.records) << row.rule;
@@ -73,7 +77,6 @@ TEST(LexiconFile, RefusesWhatItCannotRead)
 {
     const WordListFile list("a\n");
     LexiconFile lexicon(list.Path());
-    EXPECT_THROW(lexicon.AtEnd(), LexiconError) << "not open";
     lexicon.Open();
     EXPECT_EQ(lexicon.ReadRecord(), "a");
     EXPECT_THROW(lexicon.ReadRecord(), LexiconError) << "past the end";
@@ -82,6 +85,35 @@ TEST(LexiconFile, RefusesWhatItCannotRead)
     EXPECT_THROW(LexiconFile(list.Path().string() + ".none").Open(), LexiconError);
     EXPECT_THROW(LexiconFile(testing::TempDir()).Open(), LexiconError) << "a folder";
     EXPECT_THROW(LexiconFile("/dev/zero").Open(), LexiconError) << "a device has no end";
+    for (const char undefined : {'\x81', '\x8D', '\x8F', '\x90', '\x9D', '\0'}) {
+        list.Write(std::string("a\n") + undefined + "\n");
+        EXPECT_THROW(lexicon.Open(), LexiconError) << "byte " << int{undefined};
+    }
+    list.Write(std::string(4'000'000, 'x'));
+    EXPECT_NO_THROW(lexicon.Open());
+    list.Write(std::string(4'000'001, 'x'));
+    EXPECT_THROW(lexicon.Open(), LexiconError) << "too large";
+}
+
+TEST(Letters, AreCodePoints)
+{
+    struct Row {
+        const char* text;
+        std::u32string letters;
+    };
+    const Row rows[] = {{"", U""}, {"garden", U"garden"}, {"bücher", U"bücher"},
+        {"слово€", U"слово€"}, {"😀a", U"😀a"}, {"e\u0301", U"e\u0301"}};
+    for (const Row& row : rows) {
+        EXPECT_EQ(CountLetters(row.text), row.letters.size()) << row.text;
+        std::string joined;
+        for (int k = 1; k <= static_cast<int>(row.letters.size()); ++k)
+            joined += LetterOf(row.text, k);
+        EXPECT_EQ(joined, row.text);
+        std::u32string taken;
+        for (std::string_view text = row.text; !text.empty();)
+            taken += TakeFirstLetter(text);
+        EXPECT_EQ(taken, row.letters);
+    }
 }
 
 struct SpellCase {
@@ -102,6 +134,11 @@ TEST(Passes, LettersSpellAWord)
         {"only the first six count", "planetgardensimple", "gardenxyz", true},
         {"a used letter leaves its mark", "planetgardensimple", "p*****", true},
         {"with no mark yet", "planetgardensimple", "*lanet", false},
+        {"letters of more bytes", "bücherslovoéèa", "büéèoo", true},
+        {"one of them too often", "bücherslovoéèa", "büüéoo", false},
+        {"bytes of two letters are not a third", "аїцqйuэ", "аїццйq", false},
+        {"six letters, not six bytes", "словоб", "сло", false},
+        {"only the first six letters count", "словоб", "бослов*же", true},
     };
     for (const SpellCase& row : cases)
         EXPECT_EQ(CanSpell(row.letters, row.word), row.can) << row.rule;
@@ -115,13 +152,10 @@ TEST(Passes, CountTakesAsManyAsSixteenBitsCount)
             bytes += "planet\n";
         const WordListFile list(bytes + "garden");
         LexiconFile lexicon(list.Path());
-        std::int16_t words = 0;
-        std::string last;
-        const FirstLetters drawable = CountWords(lexicon, words, last);
-        EXPECT_EQ(last, "garden");
-        EXPECT_TRUE(drawable.test('p'));
-        EXPECT_FALSE(drawable.test('g')) << "no position reaches the last record";
-        return words;
+        const WordCount counted = CountWords(lexicon);
+        EXPECT_EQ(counted.last, "garden");
+        EXPECT_EQ(counted.firstLetters, U"p") << "no position reaches the last record";
+        return counted.records;
     };
     EXPECT_EQ(count(32766), 32767);
     EXPECT_THROW(count(32767), LexiconError);
@@ -131,12 +165,9 @@ TEST(Passes, PickStopsShortOfTheLastRecord)
 {
     const WordListFile list("a\nb\nc\n");
     LexiconFile lexicon(list.Path());
-    const auto pick = [&lexicon](float draw) {
-        std::string word = "kept";
-        PickRandomWord(lexicon, 3, draw, word);
-        return word;
-    };
-    EXPECT_EQ(pick(0), "kept");
+    const auto pick
+        = [&lexicon](float draw) { return PickRandomWord(lexicon, 3, draw).value_or("none"); };
+    EXPECT_EQ(pick(0), "none");
     EXPECT_EQ(pick(DrawOf(2, 3)), "a");
     EXPECT_EQ(pick(justBelowOne), "b");
 }
@@ -145,13 +176,12 @@ TEST(Passes, CandidatesAreAppendedUntilFull)
 {
     const WordListFile list("planet\nsimple\nnothim\nplanetarium\n");
     LexiconFile lexicon(list.Path());
-    std::vector<std::string> slots(4);
-    std::int16_t count = 0;
-    CollectCandidates(lexicon, 4, "planetgardensimple", slots, count);
-    CollectCandidates(lexicon, 1, "planetgardensimple", slots, count);
-    EXPECT_EQ(slots, (std::vector<std::string>{"planet", "simple", "planetarium", "planet"}));
-    EXPECT_THROW(CollectCandidates(lexicon, 1, "planetgardensimple", slots, count), LexiconError);
-    EXPECT_THROW(CollectCandidates(lexicon, 5, "nothing here", slots, count), LexiconError)
+    std::vector<std::string> slots(3);
+    EXPECT_EQ(CollectCandidates(lexicon, 4, "planetgardensimple", slots), 3);
+    EXPECT_EQ(slots, (std::vector<std::string>{"planet", "simple", "planetarium"}));
+    slots.pop_back();
+    EXPECT_THROW(CollectCandidates(lexicon, 4, "planetgardensimple", slots), LexiconError);
+    EXPECT_THROW(CollectCandidates(lexicon, 5, "nothing here", slots), LexiconError)
         << "the file has fewer records than were counted";
 }
 

@@ -90,18 +90,4 @@ TEST(StartOfGame, ListsOfAllLengths)
     EXPECT_FALSE(CandidatesOf(0, "", {}, {})) << "no record";
 }
 
-// Every draw falls on the first of three first letters.
-TEST(StartOfGame, DrawsEndIfNoDrawSucceeds)
-{
-    std::string bytes;
-    for (int k = 0; k < 32764; ++k)
-        bytes += "zzzzzz\n";
-    HeadlessGame game("");
-    game.UseList(bytes + "garden\nsimple\nplanet\n");
-    game.platform.draws.assign(1'000'000, DrawOf(2, 32767));
-    game.Play("Option1:1 Command1");
-    EXPECT_TRUE(game.Ended());
-    EXPECT_EQ(game.platform.taken, 3 * 30519);
-}
-
 } // namespace

@@ -19,7 +19,7 @@ class WordList : public testing::Test {
 protected:
     WordList()
     {
-        firstLetters = CountWords(file, count, last);
+        counted = CountWords(file);
         file.Open();
         while (!file.AtEnd())
             words.emplace_back(file.ReadRecord());
@@ -29,15 +29,11 @@ protected:
     // How many candidates a game with these hidden words finds; throws where they do not fit.
     int CountCandidates(const std::string& hiddenWords)
     {
-        std::int16_t found = 0;
-        CollectCandidates(file, count, hiddenWords, candidates, found);
-        return found;
+        return CollectCandidates(file, counted.records, hiddenWords, candidates);
     }
 
     LexiconFile file{QUORVEL_WORD_LIST};
-    std::int16_t count = 0;
-    std::string last;
-    FirstLetters firstLetters;
+    WordCount counted;
     std::vector<std::string> words;
     std::array<std::string, mostCandidates> candidates;
 };
@@ -52,7 +48,7 @@ TEST_F(WordList, HoldsWordsOfSixSmallLettersEachOnce)
         EXPECT_EQ(word.find_first_not_of("abcdefghijklmnopqrstuvwxyz"), std::string::npos) << word;
         EXPECT_TRUE(seen.insert(word).second) << word << " stands there twice";
     }
-    EXPECT_GE(firstLetters.count(), 3U);
+    EXPECT_GE(counted.firstLetters.size(), 3U);
 }
 
 // The figures that check_word_list proves to be the greatest and the smallest. A change of the list
