@@ -19,8 +19,7 @@ namespace {
 // a player waits. So many bytes are read in about a second; a game is given up after them, unless
 // at least one try in a thousand succeeds. Then one of the first twenty thousand will.
 constexpr std::uint64_t bytesToDrawFrom = 2'000'000'000;
-constexpr std::uint64_t bytesAnOpeningCosts
-    = 10'000; // which take as long to read as a file to open
+constexpr std::uint64_t bytesAnOpeningCosts = 10'000; // in the same time
 constexpr double fairChance = 0.001;
 constexpr std::uint64_t mostTries = 20'000;
 
