@@ -175,6 +175,40 @@ TEST_F(Window, MessagesStandInOnePlaceAndCoverNothingInPlay)
     EXPECT_EQ(corners.size(), 1U);
 }
 
+// The controls that a key comes to, from the one that has the focus until it is there again.
+QStringList Walk(const QWidget& window, Qt::Key key)
+{
+    QStringList stops;
+    do {
+        stops.push_back(window.focusWidget()->objectName());
+        QTest::keyClick(window.focusWidget(), key);
+    } while (window.focusWidget()->objectName() != stops.front() && stops.size() < 99);
+    return stops;
+}
+
+TEST_F(Window, IsWalkedByKeys)
+{
+    Play(start);
+    QStringList stops; // of a row only the first box
+    for (const QString name : TabOrder())
+        stops.push_back(Named(name) == nullptr ? name + "(1)" : name);
+    stops.removeIf([this](const QString& name) { return !Named(name)->isVisible(); });
+    EXPECT_EQ(Walk(window, Qt::Key_Tab).join(' ').toStdString(), stops.join(' ').toStdString());
+    // No arrow key ends anywhere for good: each of them leads back from every stop.
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down})
+        EXPECT_LT(Walk(window, key).size(), 99) << key << " stays at " << Focused().toStdString();
+
+    // Tab leaves out what the level panel covers wholly, on a board that is still in play.
+    answers = "y";
+    Play("me=slanet swap=pgarde you=nimple me:1250; Command13");
+    const QStringList order = Walk(window, Qt::Key_Tab);
+    EXPECT_TRUE(order.contains("Word1(4)") && order.contains("Command7"));
+    EXPECT_FALSE(order.contains("Word1(1)") || order.contains("Text6(3)"));
+    Named("Word1(4)")->setFocus();
+    Play("key Left");
+    EXPECT_EQ(Focused(), "Word1(4)");
+}
+
 TEST_F(Window, IsPlayedByKeyboard)
 {
     EXPECT_EQ(Focused(), "Option1(1)");
@@ -184,29 +218,6 @@ TEST_F(Window, IsPlayedByKeyboard)
     EXPECT_EQ(board.Level, 3);
     Play("key Return");
     EXPECT_EQ(Focused(), "Text1(1)");
-    const auto walk = [this] {
-        QStringList order;
-        do {
-            order.push_back(Focused());
-            Play("key Tab");
-        } while (Focused() != order.front() && order.size() < 99);
-        return order;
-    };
-    QStringList stops; // of a row only the first box
-    for (const QString name : TabOrder())
-        stops.push_back(Named(name) == nullptr ? name + "(1)" : name);
-    stops.removeIf([this](const QString& name) { return !Named(name)->isVisible(); });
-    QStringList order = walk();
-    EXPECT_EQ(order.join(' ').toStdString(), stops.join(' ').toStdString());
-    // No arrow key ends anywhere for good: each of them leads back from every stop.
-    for (const char* key : {"key Up", "key Down"}) {
-        QStringList met;
-        do {
-            met.push_back(Focused());
-            Play(key);
-        } while (Focused() != order.front() && met.size() < 99);
-        EXPECT_LT(met.size(), 99) << key << " stays at " << Focused().toStdString();
-    }
 
     board.Text1(2).Text = "p";
     Play("key Right; key Enter");
@@ -232,15 +243,6 @@ TEST_F(Window, IsPlayedByKeyboard)
     answers = "y";
     Play("Text6=#1; Text7=#2; Text8=#3; Command7");
     EXPECT_EQ(Focused(), "Option1(3)");
-    // Tab leaves out what the level panel covers wholly, on a board that is still in play.
-    answers = "y";
-    Play("Command1; Text1(1); me=slanet swap=pgarde you=nimple me:1250; Command13");
-    order = walk();
-    EXPECT_TRUE(order.contains("Word1(4)") && order.contains("Command7"));
-    EXPECT_FALSE(order.contains("Word1(1)") || order.contains("Text6(3)"));
-    Named("Word1(4)")->setFocus();
-    Play("key Left");
-    EXPECT_EQ(Focused(), "Word1(4)");
 }
 
 } // namespace

@@ -134,8 +134,11 @@ TEST_F(Window, DrawsAtItsMomentsAlone)
     };
     Play("Command14");
     EXPECT_TRUE(opened);
-    whileOpen = nullptr;
+}
 
+TEST_F(Window, KeepsTheNewestWordInSight)
+{
+    Play(start);
     // Words come to the list at the end of a click, and the newest is in sight.
     for (int word = 0; word < 60; ++word)
         board.List1.AddItem("word" + std::to_string(word));

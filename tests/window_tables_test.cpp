@@ -149,18 +149,18 @@ std::multiset<std::string> Disabled(MainWindow& window, const Board& board)
     std::multiset<std::string> disabled;
     for (const Click& click : Clicks()) {
         for (int box = std::min(click.Boxes, 1); box <= click.Boxes; ++box) {
-            const std::string control(click.Control);
-            const auto name = control + (box > 0 ? "(" + std::to_string(box) + ")" : "");
-            const auto* widget = window.findChild<QWidget*>(QString::fromStdString(name));
+            const auto control = QString::fromLatin1(click.Control);
+            const QString boxed = QString("%1(%2)").arg(control).arg(box);
+            const auto* widget = window.findChild<QWidget*>(box > 0 ? boxed : control);
             if (widget == nullptr) {
-                ADD_FAILURE() << name << " is not in the roster";
+                ADD_FAILURE() << boxed.toStdString() << " is not in the roster";
                 continue;
             }
             const auto index = static_cast<std::int16_t>(box);
-            EXPECT_EQ(widget->isVisible(), click.OnView(board, index)) << name;
-            EXPECT_EQ(widget->isEnabled(), click.Enabled(board, index)) << name;
+            EXPECT_EQ(widget->isVisible(), click.OnView(board, index)) << boxed.toStdString();
+            EXPECT_EQ(widget->isEnabled(), click.Enabled(board, index)) << boxed.toStdString();
             if (!widget->isEnabled())
-                disabled.insert(control);
+                disabled.emplace(click.Control);
         }
     }
     return disabled;

@@ -1,5 +1,5 @@
 // The window: it shows the board, hands clicks to the handlers, and writes what the player types or
-// ticks into the board. It knows no rule. What it does stands in the rooms that it wires together.
+// ticks into the board. It knows no rule. Its work stands in the files that it wires together.
 #pragma once
 
 #include "ui/controls.h"
