@@ -1,41 +1,39 @@
 // The check of a word list: its rules, and the search for the largest games.
 #include "lexicon/passes.h"
+#include "tools/word_list/largest_game.h"
 #include "tools/word_list/list_rules.h"
-#include "tools/word_list/trios.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace {
 
-using Words = std::vector<std::string>;
+// What the games of a list find, as places in it.
+using Games = std::set<std::vector<std::size_t>>;
 
-// What the trios with each stock of letters make, the most first, by trying every trio.
-std::vector<int> TryEveryTrio(const Words& words)
+Games TryEveryTrio(const Words& words)
 {
-    std::map<std::string, int> makes;
+    Games games;
     for (const std::string& first : words) {
         for (const std::string& second : words) {
             for (const std::string& third : words) {
                 if (first.front() >= second.front() || second.front() >= third.front())
                     continue;
-                std::string letters = first + second + third;
-                std::sort(letters.begin(), letters.end());
-                makes[letters] = static_cast<int>(std::count_if(words.begin(), words.end(),
-                    [&](const std::string& word) { return CanSpell(letters, word); }));
+                std::vector<std::size_t> candidates;
+                for (std::size_t place = 0; place < words.size(); ++place) {
+                    if (CanSpell(first + second + third, words[place]))
+                        candidates.push_back(place);
+                }
+                games.insert(candidates);
             }
         }
     }
-    std::vector<int> sorted;
-    for (const auto& [letters, count] : makes)
-        sorted.push_back(count);
-    std::sort(sorted.rbegin(), sorted.rend());
-    return sorted;
+    return games;
 }
 
 // Words of few letters share many of them and have doubles; words of many letters have neither.
@@ -56,17 +54,31 @@ Words DrawWords(const std::string& alphabet, std::mt19937& draw)
 
 } // namespace
 
-TEST(WordListTool, FindsTheTriosThatMakeTheMost)
+TEST(WordListTool, FindsEveryLargeGame)
 {
     std::mt19937 draw(1);
-    for (const std::string alphabet : {"abcdefghijklmnopqrstuvwxyzABCDEF", "abcdefghi"}) {
+    for (const std::string alphabet : {"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMN", "abcdefghi"}) {
         const Words words = DrawWords(alphabet, draw);
-        std::vector<int> expected = TryEveryTrio(words);
-        expected.resize(400);
-        std::vector<int> found;
-        for (const Trio& trio : LargestTrios(GroupByLetters(words), expected.size()))
-            found.push_back(trio.makes);
-        EXPECT_EQ(found, expected) << alphabet;
+        const Games games = TryEveryTrio(words);
+        std::size_t most = 0;
+        for (const auto& candidates : games)
+            most = std::max(most, candidates.size());
+        for (std::size_t bar = most; bar + 4 > most; --bar) {
+            Games expected = games;
+            std::erase_if(expected, [bar](const auto& game) { return game.size() <= bar; });
+            Games found;
+            FindLargeGames(words, bar, [&](const LargeGame& game) {
+                const auto& [first, second, third] = game.hiddenWords;
+                EXPECT_EQ(std::set({first[0], second[0], third[0]}).size(), 3U);
+                const std::string letters = first + second + third;
+                for (const std::size_t place : game.candidates)
+                    EXPECT_TRUE(CanSpell(letters, words[place])) << letters << words[place];
+                found.insert(game.candidates);
+                return bar;
+            });
+            EXPECT_EQ(found, expected) << alphabet << " above " << bar;
+        }
+        EXPECT_EQ(FindLargestGame(words)->candidates.size(), most) << alphabet;
     }
 }
 
@@ -85,7 +97,11 @@ TEST(WordListTool, NamesWhatBreaksTheRules)
     for (const Row& row : {
              Row{good, {}},
              Row{with("planet"), {}},
-             Row{with("seven77"), {"Record 5, \"seven77\", takes 7 bytes and not six."}},
+             Row{with("bücher"), {}},
+             Row{with("bu\u0308che"),
+                 {"Record 5, \"bu\u0308che\", holds a character that cannot be a letter of the "
+                  "game."}},
+             Row{with("seven77"), {"Record 5, \"seven77\", has 7 letters and not six."}},
              Row{with(""), {"Record 5, \"\", is empty."}},
              Row{with("a*bcde"),
                  {"Record 5, \"a*bcde\", holds a character that cannot be a letter of the game."}},

@@ -5,9 +5,9 @@
 //
 // Status 0: the game can play with the list. 1: it cannot. 2: the call makes no sense.
 
-#include "lexicon/lexicon_file.h"
+#include "game/board.h"
+#include "tools/word_list/largest_game.h"
 #include "tools/word_list/list_rules.h"
-#include "tools/word_list/trios.h"
 
 #include <cstdio>
 #include <exception>
@@ -16,19 +16,9 @@
 
 namespace {
 
-constexpr int mostCandidates = 2000;
-constexpr int fewestCandidates = 300; // with fewer, the game looks through the list again
-constexpr std::size_t triosShown = 10;
-
 void Print(const std::string& line)
 {
     std::puts(line.c_str());
-}
-
-std::string Describe(const Trio& trio)
-{
-    return std::to_string(trio.makes) + " (" + trio.words[0] + ", " + trio.words[1] + ", "
-        + trio.words[2] + ")";
 }
 
 bool KeepsRules(const std::vector<std::string>& records)
@@ -44,20 +34,14 @@ bool KeepsRules(const std::vector<std::string>& records)
     return true;
 }
 
-bool StaysInBounds(const std::vector<std::string>& words)
+bool FitsTheGame(const Words& words)
 {
-    const std::vector<LetterGroup> groups = GroupByLetters(words);
-    const Trio smallest = SmallTrio(groups);
-    const int passes = (fewestCandidates + smallest.makes - 1) / smallest.makes;
-    Print("The fewest words that three hidden words make is "
-        + std::string(smallest.makes == 3 ? "" : "at most ") + Describe(smallest)
-        + "; such a game goes through the list " + std::to_string(passes) + " times.");
-    const std::vector<Trio> largest = LargestTrios(groups, triosShown);
-    Print("The most is " + Describe(largest.front()) + "; a game has room for "
-        + std::to_string(mostCandidates) + ". After it come, with other letters:");
-    for (std::size_t k = 1; k < largest.size(); ++k)
-        Print("  " + Describe(largest[k]));
-    if (largest.front().makes <= mostCandidates)
+    const std::optional<LargeGame> largest = FindLargestGame(words);
+    const std::size_t most = largest->candidates.size();
+    Print("Its largest game finds " + std::to_string(most) + " words, of "
+        + std::to_string(mostCandidates) + " that a game has room for: " + largest->hiddenWords[0]
+        + ", " + largest->hiddenWords[1] + ", " + largest->hiddenWords[2] + ".");
+    if (most <= mostCandidates)
         return true;
     Print("That is too many: a game with these hidden words would end before it began.");
     return false;
@@ -75,7 +59,7 @@ int main(int count, char** arguments)
     }
     try {
         const std::vector<std::string> records = ReadRecords(words.back());
-        return KeepsRules(records) && (rulesOnly || StaysInBounds(records)) ? 0 : 1;
+        return KeepsRules(records) && (rulesOnly || FitsTheGame(records)) ? 0 : 1;
     } catch (const std::exception& error) {
         Print(error.what());
         return 1;

@@ -1,5 +1,6 @@
 #include "tools/word_list/list_rules.h"
 
+#include "lexicon/letters.h"
 #include "lexicon/lexicon_file.h"
 
 #include <algorithm>
@@ -7,27 +8,30 @@
 
 namespace {
 
-constexpr std::size_t lettersPerWord = 6;
 constexpr std::size_t mostRecords = 32767;
 constexpr std::size_t fewestFirstLetters = 3;
 constexpr std::size_t mostNamed = 10; // records named one by one, before the rest is only counted
 
-// The game marks a letter that a word has used with an asterisk. What is no ASCII letter, digit or
-// sign takes several bytes in most files, and the game would tear it apart.
-bool CanBeALetter(char letter)
+// The game marks a letter that a word has used with an asterisk, and a combining accent would stand
+// in a box of its own.
+bool CanBeALetter(char32_t letter)
 {
-    return letter > ' ' && letter <= '~' && letter != '*';
+    const bool isControl = letter <= U' ' || (letter >= 0x7F && letter <= 0xA0);
+    const bool isAccent = letter >= 0x300 && letter <= 0x36F;
+    return !isControl && !isAccent && letter != U'*';
 }
 
 // What is wrong with the record, or nothing.
-std::string FaultOf(const std::string& record)
+std::string FaultOf(std::string_view record)
 {
     if (record.empty())
         return "is empty";
-    if (record.size() != lettersPerWord)
-        return "takes " + std::to_string(record.size()) + " bytes and not six";
-    if (!std::all_of(record.begin(), record.end(), CanBeALetter))
-        return "holds a character that cannot be a letter of the game";
+    if (CountLetters(record) != lettersPerWord)
+        return "has " + std::to_string(CountLetters(record)) + " letters and not six";
+    while (!record.empty()) {
+        if (!CanBeALetter(TakeFirstLetter(record)))
+            return "holds a character that cannot be a letter of the game";
+    }
     return {};
 }
 
@@ -35,10 +39,11 @@ std::string FaultOf(const std::string& record)
 // it can be drawn only as the first of the three.
 bool HasEnoughFirstLetters(const std::vector<std::string>& records)
 {
-    std::set<char> firstLetters;
+    std::set<char32_t> firstLetters;
     for (std::size_t k = 0; k + 1 < records.size(); ++k) {
-        if (!records[k].empty())
-            firstLetters.insert(records[k].front());
+        std::string_view record = records[k];
+        if (!record.empty())
+            firstLetters.insert(TakeFirstLetter(record));
     }
     return firstLetters.size() >= fewestFirstLetters;
 }
