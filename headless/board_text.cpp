@@ -80,11 +80,9 @@ void SetUsed(Board& board, const std::string& used)
     board.Text9.Text = "0";
     for (const std::string& word : Split(used, ',')) {
         const bool madeUp = !word.empty() && word[0] <= '9';
-        const int times = madeUp ? ReadNumber(word, 1, 40000) : static_cast<int>(!word.empty());
-        for (int k = times; k > 0; --k) {
-            NumberBox nobody;
+        NumberBox nobody;
+        for (int k = madeUp ? ReadNumber(word, 1, 40000) : !word.empty(); k > 0; --k)
             ScoreWord(board, nobody, madeUp ? "word" + std::to_string(k) : word);
-        }
     }
 }
 
@@ -104,7 +102,7 @@ void SetHidden(Board& board, const std::string& text)
     std::ranges::copy(words, board.HiddenWords.begin());
 }
 
-// Words and how often they are repeated, as in "garden,planet*150"; a number alone is the count of
+// Words and how often they are repeated, as in "150*garden,planet"; a number alone is the count of
 // the words that are there.
 void SetCandidates(Board& board, const std::string& text)
 {
@@ -112,11 +110,9 @@ void SetCandidates(Board& board, const std::string& text)
         board.CandidateCount = ReadNumber<std::int16_t>(text, 0, mostCandidates);
         return;
     }
-    const std::vector<std::string> halves = Split(text, '*');
-    const std::vector<std::string> words = Split(halves[0], ',');
-    Demand(halves.size() <= 2, "one \"*\" stands after the words");
-    const int times = halves.size() == 2 ? ReadNumber<int>(halves[1], 1, mostCandidates) : 1;
-    Demand(times * words.size() <= mostCandidates, "there are too many candidates");
+    const auto [times, repeated] = SplitTimes(text, mostCandidates);
+    const std::vector<std::string> words = Split(repeated, ',');
+    Demand(times * std::ssize(words) <= mostCandidates, "there are too many candidates");
     board.CandidateCount = 0;
     for (int time = 0; time < times; ++time)
         for (const std::string& word : words)

@@ -1,18 +1,34 @@
 #include "headless/headless_game.h"
 
 #include "game/clicks.h"
+#include "game/rows.h"
 #include "game/start_of_game.h"
+#include "headless/board_check.h"
+#include "headless/board_text.h"
 #include "headless/script.h"
 
+#include <algorithm>
 #include <sstream>
 #include <utility>
+
+namespace {
+
+// A longer word goes by its first letters.
+bool Spells(std::string row, std::string word)
+{
+    std::ranges::sort(row);
+    std::ranges::sort(word);
+    return std::ranges::includes(word, row);
+}
+
+} // namespace
 
 HeadlessGame::HeadlessGame(std::filesystem::path wordList, HeadlessPlatform chance)
     : platform(std::move(chance))
     , game{board, view, platform, std::move(wordList)}
 {
     view.during = [this](const std::string& call) { OnCall(call); };
-    Form_Load(game);
+    StartProgram();
 }
 
 void HeadlessGame::StartProgram()
@@ -20,9 +36,8 @@ void HeadlessGame::StartProgram()
     board = Board{};
     view.answers.clear();
     pending_.clear();
-    ended_ = false;
-    if (referee_)
-        referee_->Begin();
+    ended_ = exchanged_ = false;
+    depth_ = 0;
     Form_Load(game);
 }
 
@@ -37,20 +52,17 @@ void HeadlessGame::Play(const Event& event)
     if (ended_)
         StartProgram();
     try {
-        try {
-            event.run(*this);
-            RunPending();
-            if (referee_)
-                referee_->AfterEvent();
-        } catch (const ProgramEnded&) {
-            ended_ = true;
-            Tell("end");
-            if (referee_)
-                referee_->AtEnd(view.calls.back());
-        }
+        event.run(*this);
+        RunPending();
+        CheckBoard();
+    } catch (const ProgramEnded&) {
+        ended_ = true;
+        tell("end");
+        const std::string& last = view.calls.back();
+        if (checked_ && !last.starts_with("New Game? ") && !last.ends_with("Directory (Folder)"))
+            Fail("the program ended for no reason");
     } catch (const Fault& fault) {
-        fault_ = fault.text;
-        Tell("fault: " + fault_);
+        Fail(fault.text);
     }
 }
 
@@ -61,22 +73,31 @@ void HeadlessGame::Play(std::string_view events)
         Play(ReadEvent(word));
 }
 
-bool HeadlessGame::Click(std::string_view control, std::int16_t index)
+void HeadlessGame::Click(std::string_view control, std::int16_t index)
 {
     const ::Click& click = *FindClick(control);
-    if (!click.OnView(board, index) || !click.Enabled(board, index)
-        || (referee_ && referee_->Forbids(control))) {
+    // A letter of the words before that is bought while the next game starts stays in its box. This
+    // is known, and who looks for other faults does not try it.
+    const bool known = depth_ > 0 && board.CandidateCount == 0 && control.starts_with("Word");
+    if (!click.OnView(board, index) || !click.Enabled(board, index) || (checked_ && known)) {
         std::string refused("refused ");
         refused.append(control).append(index > 0 ? 1 : 0, ':');
-        Tell(index > 0 ? refused + std::to_string(index) : refused);
-        return false;
+        tell(index > 0 ? refused + std::to_string(index) : refused);
+        return;
     }
-    if (!referee_)
-        return Deliver(game, click, index);
-    const int repaints = referee_->BeforeClick(control);
+    const bool exchanges = control == "SwapLetters" && board.HeldFlag;
+    Require(!exchanges || !exchanged_, "a second exchange in one go");
+    exchanged_ |= exchanges || control == "Command16";
+    const int repaints = repaints_;
+    ++depth_;
     Deliver(game, click, index);
-    referee_->AfterClick(control, repaints);
-    return true;
+    --depth_;
+    // Who repaints before the work is done hands the go over, or begins a game.
+    if (repaints_ != repaints && control != "SwapLetters") {
+        exchanged_ = false;
+        Require(board.SwapLetters(1).Enabled || control == "Command3", "a go with no exchange");
+    }
+    CheckBoard();
 }
 
 void HeadlessGame::UseList(const std::string& bytes)
@@ -101,19 +122,53 @@ void HeadlessGame::RunPending()
 
 void HeadlessGame::OnCall(const std::string& call)
 {
-    Tell(call);
-    if (referee_)
-        referee_->OnCall(call);
+    tell(call);
+    CheckCall(call);
     if (call != "repaint")
         return;
+    ++repaints_;
     const bool interrupted = !pending_.empty();
     RunPending();
-    if (referee_)
-        referee_->Interrupted(interrupted);
+    interrupted_ = interrupted;
 }
 
-void HeadlessGame::Tell(const std::string& what)
+void HeadlessGame::Fail(const std::string& fault)
 {
-    if (tell)
-        tell(what);
+    fault_ = fault;
+    tell("fault: " + fault);
+}
+
+void HeadlessGame::Require(bool holds, const std::string& rule) const
+{
+    if (checked_ && !holds)
+        throw Fault{rule + ": " + Line(board)};
+}
+
+void HeadlessGame::CheckBoard() const
+{
+    if (!checked_)
+        return;
+    const std::string fault
+        = FindFault(board, depth_ > 0 ? Moment::InsideAnEvent : Moment::BetweenEvents);
+    Require(fault.empty(), fault);
+}
+
+void HeadlessGame::CheckCall(const std::string& call) const
+{
+    constexpr std::string_view computersWord = "Word Found: My Word:";
+    if (call == "repaint")
+        CheckBoard();
+    if (call == "Quorvel2: Word Accepted")
+        Require(interrupted_ || !InLedger(Spell(board.Text1), 50), "a used word scores");
+    if (call.starts_with(computersWord)) {
+        const std::string word = call.substr(computersWord.size());
+        Require(!InLedger(word, ledgerSlots), "the computer plays a used word");
+        Require(Spells(Spell(board.MyLetters), word), "not the computer's letters");
+    }
+}
+
+bool HeadlessGame::InLedger(const std::string& word, int slots) const
+{
+    const auto first = board.UsedWords.begin();
+    return std::find(first, first + slots + 1, word) != first + slots + 1;
 }

@@ -6,7 +6,6 @@
 #include "game/game.h"
 #include "headless/headless_platform.h"
 #include "headless/recording_view.h"
-#include "headless/referee.h"
 #include "headless/word_list_file.h"
 
 #include <cstdint>
@@ -19,11 +18,10 @@
 
 class HeadlessGame;
 
-// What a player does in one step; its word in a script is "Text1:4" or the like.
+// What a player does in one step.
 struct Event {
-    std::string word;
-    bool waits = false; // for the next repaint, or for the end of the next event if there is none
     std::function<void(HeadlessGame& game)> run;
+    bool waits = false; // for the next repaint, or for the end of the next event if there is none
 };
 
 class HeadlessGame {
@@ -39,7 +37,7 @@ public:
 
     // Told what happens as it happens: the calls of the view, "refused Text1:1", "end", and
     // "fault: " with what went wrong.
-    std::function<void(const std::string& what)> tell;
+    std::function<void(const std::string& what)> tell = [](const std::string& /*what*/) { };
 
     // Plays on; after the end of the program it is started again. After a fault nothing is played.
     void Play(const Event& event);
@@ -47,29 +45,39 @@ public:
     // The same for the words of a script, "Text1:4 Command3". Throws ScriptError.
     void Play(std::string_view events);
 
-    // Delivers a click, as a step of an event; 0 for a single control. False when it is refused.
-    bool Click(std::string_view control, std::int16_t index = 0);
+    // Delivers a click, as a step of an event; 0 for a single control. Tells when it is refused.
+    void Click(std::string_view control, std::int16_t index = 0);
 
-    // From here on the game is held to its rules, at every event and every repaint.
-    void Check() { referee_.emplace(board); }
+    // From here on the game is held to its rules, at every event and every repaint: to those of
+    // every board and to those that reach from one event to another.
+    void Check() { checked_ = true; }
 
     // From here on games read these bytes as their word list, or find none.
     void UseList(const std::string& bytes);
     void UseNoList();
 
-    bool Started() const { return board.Frame4.Visible; }
-    const std::string& FirstFault() const { return fault_; }
     bool Ended() const { return ended_; } // the program, by the last event
+    const std::string& FirstFault() const { return fault_; }
 
 private:
     void StartProgram();
     void RunPending();
     void OnCall(const std::string& call);
-    void Tell(const std::string& what);
+
+    void Fail(const std::string& fault);
+    void Require(bool holds, const std::string& rule) const; // throws Fault
+    void CheckBoard() const;
+    void CheckCall(const std::string& call) const;
+    bool InLedger(const std::string& word, int slots) const;
 
     std::optional<WordListFile> list_;
-    std::optional<Referee> referee_;
     std::deque<Event> pending_;
     std::string fault_;
     bool ended_ = false;
+
+    bool checked_ = false;
+    int depth_ = 0; // clicks under way, one inside the other
+    int repaints_ = 0;
+    bool interrupted_ = false; // the last repaint let an event through
+    bool exchanged_ = false;   // this go's exchange is used or given up
 };

@@ -107,12 +107,9 @@ Run ReadDoing(const std::string& word)
 }
 
 // "0", ".5", "<1", "2/6", with "18*" before it for eighteen of them.
-std::vector<float> ReadDraws(const std::string& word)
+Run ReadDraws(const std::string& word)
 {
-    const std::vector<std::string> halves = Split(word, '*');
-    Demand(halves.size() <= 2, "one \"*\" at most");
-    const std::string& draw = halves.back();
-    const int times = halves.size() == 2 ? ReadNumber(halves[0], 1, 1'000'000) : 1;
+    const auto [times, draw] = SplitTimes(word, 1'000'000);
     const std::size_t slash = draw.find('/');
     float value = justBelowOne;
     if (slash != std::string::npos) {
@@ -121,14 +118,15 @@ std::vector<float> ReadDraws(const std::string& word)
     } else if (draw != "<1") {
         value = ReadNumber<float>(draw, 0, justBelowOne);
     }
-    return std::vector<float>(static_cast<std::size_t>(times), value);
+    return [count = static_cast<std::size_t>(times), value](HeadlessGame& game) {
+        game.platform.draws.insert(game.platform.draws.end(), count, value);
+    };
 }
 
-// Reads each word with `read` and gives the line one that does them all.
-template <typename Read, typename Each>
-Run ForEachWord(const std::string& rest, Read read, Each each)
+// Does what each of the words does.
+Run ReadEach(const std::string& rest, const std::function<Run(const std::string& word)>& read)
 {
-    std::vector<decltype(read(rest))> all;
+    std::vector<Run> all;
     std::istringstream words(rest);
     for (std::string word; words >> word;) {
         try {
@@ -138,9 +136,9 @@ Run ForEachWord(const std::string& rest, Read read, Each each)
         }
     }
     Demand(!all.empty(), "something must follow");
-    return [all = std::move(all), each](HeadlessGame& game) {
-        for (const auto& one : all)
-            each(game, one);
+    return [all](HeadlessGame& game) {
+        for (const Run& run : all)
+            run(game);
     };
 }
 
@@ -150,8 +148,11 @@ Run ReadList(const std::string& rest)
         return [](HeadlessGame& game) { game.UseNoList(); };
     std::string bytes;
     std::istringstream words(rest);
-    for (std::string word; words >> word;)
-        bytes += WithBlanks(word) + "\n";
+    for (std::string word; words >> word;) {
+        const auto [times, record] = SplitTimes(word, 40000);
+        for (int time = 0; time < times; ++time)
+            bytes += WithBlanks(record) + "\n";
+    }
     return [bytes](HeadlessGame& game) { game.UseList(bytes); };
 }
 
@@ -164,16 +165,12 @@ Run ReadBoard(const std::string& rest)
 Run ReadLine(const std::string& verb, const std::string& rest)
 {
     if (verb == "do") {
-        return ForEachWord(
-            rest, ReadEvent, [](HeadlessGame& game, const Event& event) { game.Play(event); });
+        return ReadEach(rest, [](const std::string& word) -> Run {
+            return [event = ReadEvent(word)](HeadlessGame& game) { game.Play(event); };
+        });
     }
-    if (verb == "draws") {
-        return ForEachWord(
-            rest, ReadDraws, [](HeadlessGame& game, const std::vector<float>& draws) {
-                auto& all = game.platform.draws;
-                all.insert(all.end(), draws.begin(), draws.end());
-            });
-    }
+    if (verb == "draws")
+        return ReadEach(rest, ReadDraws);
     if (verb == "board")
         return ReadBoard(rest);
     if (verb == "list")
@@ -191,7 +188,7 @@ Run ReadLine(const std::string& verb, const std::string& rest)
 Event ReadEvent(const std::string& word)
 {
     const bool waits = word.starts_with('~');
-    return {word, waits, ReadDoing(word.substr(waits ? 1 : 0))};
+    return {ReadDoing(word.substr(waits ? 1 : 0)), waits};
 }
 
 std::vector<Script> ReadScripts(std::istream& stream, const std::string& file)

@@ -3,7 +3,7 @@
 // Line by line, and "#" begins a comment:
 //   == NAME      a script begins; one that is alone needs no name
 //   board ...    parts of the board that are set: see board_text.h
-//   list ...     the words of the word list, "_" for an empty one; "none" for no file
+//   list ...     the words of the word list: 298*planet, "_" for an empty one; "none" for no file
 //   seed N       draws come from this seed, 0 to 16777215, from here on
 //   draws ...    the draws to come: 0, .5, <1 for just below 1, 2/6 for the second of six, 18*0
 //   check        from here on the game is held to its rules

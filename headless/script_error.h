@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 class ScriptError : public std::invalid_argument {
@@ -41,4 +42,13 @@ inline std::vector<std::string> Split(std::string_view text, char mark)
             return pieces;
         text.remove_prefix(end + 1);
     }
+}
+
+// "18*X" is eighteen times X, and X alone is once. Throws ScriptError for more than `most`.
+inline std::pair<int, std::string> SplitTimes(const std::string& text, int most)
+{
+    const std::size_t star = text.find('*');
+    if (star == std::string::npos || text.find_first_of("0123456789") != 0)
+        return {1, text};
+    return {ReadNumber(std::string_view(text).substr(0, star), 1, most), text.substr(star + 1)};
 }

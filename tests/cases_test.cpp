@@ -10,7 +10,7 @@
 namespace {
 
 constexpr const char* beginning = "board hidden=planet/garden/simple you=garden me=planet "
-                                  "swap=simple level:1 panel:no frames:yes candidates=zzzzzz*300\n"
+                                  "swap=simple level:1 panel:no frames:yes candidates=300*zzzzzz\n"
                                   "list planet garden simple\n";
 
 struct Case : Script { };

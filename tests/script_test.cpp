@@ -55,8 +55,8 @@ TEST(Script, NamesFileLineAndWordOfWhatSaysNothing)
         {"board hidden=planet", "hidden=planet: three words have slashes between them"},
         {"board go:maybe", "go:maybe: yes or no is wanted"},
         {"board off=Command3", "off=Command3: Command3 arranges no letters"},
-        {"board candidates=planet*2001",
-            "candidates=planet*2001: \"2001\" is not a number from 1 to 2000"},
+        {"board candidates=2001*planet",
+            "candidates=2001*planet: \"2001\" is not a number from 1 to 2000"},
     };
     for (const auto& [script, refusal] : rows)
         EXPECT_EQ(Refusal(script), std::string("moves.txt:2: ") + refusal);

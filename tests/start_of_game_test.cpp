@@ -2,7 +2,7 @@
 
 #include "game/start_of_game.h"
 
-#include "headless/headless_game.h"
+#include "headless/script.h"
 
 #include <gtest/gtest.h>
 
@@ -37,57 +37,50 @@ TEST(StartOfGame, TakesItsSeedFromTheClock)
     EXPECT_EQ(game.platform.DrawRandom(), steady.DrawRandom());
 }
 
-// Starts a game at Level 1 on so many copies of a word and then these words, by draws of the
-// positions; nothing when it is refused.
-std::optional<std::vector<std::string>> CandidatesOf(int copies, const std::string& word,
-    const std::vector<std::string>& words, const std::vector<int>& positions)
+// How many candidates a game has that starts on this word list, by these draws; 0 when it is
+// refused. Positions of 299 words are drawn as 1/299 to 299/299, and the first keeps the last word.
+int CandidatesOf(const std::string& list, const std::string& draws)
 {
-    std::string bytes;
-    for (int k = 0; k < copies; ++k)
-        bytes += word + "\n";
-    for (const std::string& last : words)
-        bytes += last + "\n";
     HeadlessGame game("");
-    game.UseList(bytes);
-    for (const int position : positions)
-        game.platform.draws.push_back(
-            DrawOf(position + 1, copies + static_cast<int>(words.size())));
-    game.platform.draws.resize(game.platform.draws.size() + (positions.empty() ? 0 : 18));
-    game.Play("Option1:1 Command1");
-    EXPECT_EQ(game.FirstFault(), "");
-    EXPECT_TRUE(game.platform.draws.empty());
-    if (game.Ended())
-        return {};
-    const auto first = game.board.Candidates.begin();
-    return std::vector<std::string>(first, first + game.board.CandidateCount);
-}
-
-TEST(StartOfGame, CandidatesAreRepeatedUpToThreeHundred)
-{
-    struct Row {
-        int copies; // beside garden and simple
-        std::size_t count;
-    };
-    for (const Row row :
-        {Row{5, 301}, Row{297, 598}, Row{298, 300}, Row{299, 301}, Row{1998, 2000}}) {
-        // simple, which comes last; planet; garden
-        const auto found
-            = CandidatesOf(row.copies, "planet", {"garden", "simple"}, {0, 1, row.copies + 1});
-        ASSERT_TRUE(found) << row.copies;
-        EXPECT_EQ(found->size(), row.count) << row.copies;
-    }
-    const auto found = CandidatesOf(5, "planet", {"garden", "simple"}, {0, 1, 6}).value();
-    EXPECT_EQ(found.at(6) + found.at(7) + found.at(299), "simpleplanetgarden");
+    RunScript(game, "list " + list + "\ndraws " + draws + "\ndo Option1:1 Command1\n");
+    EXPECT_EQ(game.FirstFault(), "") << list;
+    EXPECT_TRUE(game.platform.draws.empty()) << list;
+    return game.Ended() ? 0 : game.board.CandidateCount;
 }
 
 TEST(StartOfGame, ListsOfAllLengths)
 {
-    const std::vector<std::string> three{"garden", "simple", "planet"};
-    const std::vector<std::string> two{"garden", "simple"};
-    EXPECT_TRUE(CandidatesOf(32764, "zzzzzz", three, {0, 32765, 32766})) << "32767 records";
-    EXPECT_FALSE(CandidatesOf(32765, "zzzzzz", three, {})) << "32768 records";
-    EXPECT_FALSE(CandidatesOf(1999, "planet", two, {0, 1, 2000})) << "2001 candidates";
-    EXPECT_FALSE(CandidatesOf(0, "", {}, {})) << "no record";
+    struct Row {
+        const char* list;
+        const char* draws;
+        int candidates;
+    };
+    for (const Row& row : {
+             // Candidates are repeated up to three hundred.
+             Row{"5*planet garden simple", "1/7 2/7 7/7 18*0", 301},
+             Row{"297*planet garden simple", "1/299 2/299 299/299 18*0", 598},
+             Row{"298*planet garden simple", "1/300 2/300 300/300 18*0", 300},
+             Row{"299*planet garden simple", "1/301 2/301 301/301 18*0", 301},
+             Row{"1998*planet garden simple", "1/2000 2/2000 2000/2000 18*0", 2000},
+             Row{"1999*planet garden simple", "1/2001 2/2001 2001/2001 18*0", 0},
+             Row{"32764*zzzzzz garden simple planet", "1/32767 32766/32767 32767/32767 18*0", 300},
+         })
+        EXPECT_EQ(CandidatesOf(row.list, row.draws), row.candidates) << row.list;
+    HeadlessGame game("");
+    RunScript(game, "list 32765*zzzzzz garden simple planet\ndo Option1:1 Command1");
+    EXPECT_TRUE(game.Ended()) << "32768 records";
+    game.UseList("");
+    game.Play("Option1:1 Command1");
+    EXPECT_TRUE(game.Ended()) << "no record";
+}
+
+TEST(StartOfGame, CandidatesAreRepeatedInOrder)
+{
+    HeadlessGame game("");
+    RunScript(game, "list 5*planet garden simple\ndraws 1/7 2/7 7/7 18*0\ndo Option1:1 Command1\n");
+    const Board& board = game.board;
+    EXPECT_EQ(
+        board.Candidates(7) + board.Candidates(8) + board.Candidates(300), "simpleplanetgarden");
 }
 
 } // namespace

@@ -14,7 +14,7 @@ bool FindsWordAt(int place, int level, int candidates)
     HeadlessGame game("");
     SetBoard(game.board,
         "hidden=planet/garden/simple me=planet level:" + std::to_string(level)
-            + " candidates=zzzzzz*" + std::to_string(candidates));
+            + " candidates=" + std::to_string(candidates) + "*zzzzzz");
     if (place >= 1 && place <= candidates)
         game.board.Candidates(place) = "planet";
     game.platform.draws.resize(18);

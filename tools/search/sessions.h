@@ -8,5 +8,5 @@
 
 // Plays so many sessions of a thousand events, each in a process of its own, so that a crash or a
 // hang is a fault like any other. Returns the script of the first that fails, shortened to the
-// events that it takes, with the fault as a comment; "" when nothing broke.
+// events that it takes; "" when nothing broke.
 std::string SearchSessions(const std::filesystem::path& wordList, int sessions, std::uint32_t seed);

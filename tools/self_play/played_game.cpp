@@ -68,7 +68,7 @@ PlayedGame PlayGame(const std::filesystem::path& lexicon, const SimplePlayer& pl
     game.view.answers.push_back(Answer::No); // to another game
     const auto play = [&](const Move& move) {
         story("click " + std::string(move.control) + " " + std::to_string(move.index));
-        game.Play({"", false, [&move](HeadlessGame& own) { own.Click(move.control, move.index); }});
+        game.Play({[&move](HeadlessGame& own) { own.Click(move.control, move.index); }});
     };
     play({"Option1", level});
     play({"Command1"}); // "OK"
