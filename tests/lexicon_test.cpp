@@ -139,6 +139,13 @@ TEST(Passes, LettersSpellAWord)
         {"bytes of two letters are not a third", "аїцqйuэ", "аїццйq", false},
         {"six letters, not six bytes", "словоб", "сло", false},
         {"only the first six letters count", "словоб", "бослов*же", true},
+        {"i dotted, dotless and capital are four letters", "iıIİabcdef", "iıIİab", true},
+        {"none of which stands for another", "iiIıabcdef", "iıIİab", false},
+        {"an apostrophe is a letter", "o'clckplanet", "o'clck", true},
+        {"and the typographic one is another", "o'clckplanet", "o’clck", false},
+        {"a combining accent is a letter", "caf\u0065\u0301s", "cafe\u0301s", true},
+        {"and a letter composed with it is one more", "caf\u0065\u0301s", "caf\u00e9s\u0301",
+            false},
     };
     for (const SpellCase& row : cases)
         EXPECT_EQ(CanSpell(row.letters, row.word), row.can) << row.rule;

@@ -65,9 +65,24 @@ std::string Window::State() const
 void Window::Type(const QString& row, const QString& text)
 {
     Named(row + "(1)")->setFocus(Qt::TabFocusReason);
-    const std::string word = board.HiddenWords(text.mid(1).toInt());
-    for (const char letter : word)
-        QTest::keyClick(window.focusWidget(), letter);
+    const std::string& word = board.HiddenWords(text.mid(1).toInt());
+    for (const uint letter : QString::fromStdString(word).toUcs4())
+        TypeLetter(letter);
+}
+
+void Window::TypeLetter(char32_t letter)
+{
+    if (letter < 0x80)
+        QTest::keyClick(window.focusWidget(), static_cast<char>(letter));
+    else
+        Compose(QString::fromUcs4(&letter, 1).normalized(QString::NormalizationForm_D));
+}
+
+void Window::Compose(const QString& letters) const
+{
+    QInputMethodEvent composed;
+    composed.setCommitString(letters);
+    QCoreApplication::sendEvent(window.focusWidget(), &composed);
 }
 
 void Window::AnswerMessage()

@@ -83,6 +83,11 @@ protected:
     // the first box of a row on, "key Right" a key, "you=planet me:50" a change of the board.
     void Play(const QString& steps);
 
+    // Typing into what has the focus: text as an input method gives it, and a letter by its key or,
+    // where it has none, decomposed.
+    void Compose(const QString& letters) const;
+    void TypeLetter(char32_t letter);
+
     // The level panel, the six game frames and "YOUR GO" on view; the swap row, "+" and the rest of
     // what arranges letters enabled: 1 is yes, 0 is no and ? is some of them only.
     std::string State() const;

@@ -24,13 +24,6 @@ std::string Guess(const Board& board)
     return guess;
 }
 
-void Compose(QWidget* widget, const char* letters)
-{
-    QInputMethodEvent composed;
-    composed.setCommitString(QString::fromUtf8(letters));
-    QCoreApplication::sendEvent(widget, &composed);
-}
-
 TEST_F(Window, TakesGuesses)
 {
     struct Row {
@@ -66,7 +59,7 @@ TEST_F(Window, TakesGuesses)
         EXPECT_EQ(Guess(board), row.guess) << row.steps.toStdString();
         EXPECT_EQ(Focused(), row.focused) << row.steps.toStdString();
     }
-    Compose(window.focusWidget(), "e\u0301"); // one letter that two keys compose
+    Compose("e\u0301"); // one letter that two keys compose
     EXPECT_EQ(board.Text6(2).Text, "\u00e9");
     EXPECT_EQ(Focused(), "Text6(3)");
     EXPECT_EQ(Line(board), line);
@@ -120,7 +113,7 @@ TEST_F(Window, TakesATypedWord)
 
     // Letters that keys compose, held keys, and AltGr.
     Play("panel:no go:yes off= held= up=...... you=pl(\u00e9)net; Text1(1); Text1(1)");
-    Compose(window.focusWidget(), "E\u0301");
+    Compose("E\u0301");
     QKeyEvent held(QEvent::KeyPress, Qt::Key_N, Qt::NoModifier, "n", true);
     QCoreApplication::sendEvent(window.focusWidget(), &held);
     QTest::keyClick(window.focusWidget(), Qt::Key_P, Qt::GroupSwitchModifier);

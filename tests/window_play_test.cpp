@@ -1,6 +1,9 @@
 // The window in every state of a game, and at each of its ends.
 #include "window_fixture.h"
 
+#include "game/rows.h"
+#include "lexicon/letters.h"
+
 #include <QAbstractButton>
 #include <QListWidget>
 #include <QScreen>
@@ -74,6 +77,48 @@ TEST_F(Window, PlaysToEachEndOfAGame)
         ASSERT_EQ(messages.size(), row.messages.size()) << row.messages.back();
         for (std::size_t i = 0; i < messages.size(); ++i)
             EXPECT_TRUE(messages[i].starts_with(row.messages[i])) << messages[i];
+    }
+}
+
+// The letters of the word as boxes of a row.
+std::string Row(const std::string& word)
+{
+    std::string row;
+    for (int k = 1; k <= 6; ++k)
+        row += "(" + std::string(LetterOf(word, k)) + ")";
+    return row;
+}
+
+TEST_F(Window, PlaysInAnyAlphabet)
+{
+    const char* const lists[] = {"bücher\ngarten\nsilber\ngarten\n",
+        "b\xFC\x63her\ngarten\nsilber\ngarten\n", "взгляд\nптичка\nчайник\nвзгляд\n"};
+    for (const char* bytes : lists) {
+        list.Write(bytes);
+        messages.clear();
+        answers = "y";
+        Play(start + "; Check1");
+        // A word that is laid out by its letters, and submitted.
+        const std::string word = board.HiddenWords(1);
+        const QString second = QString::fromStdString(std::string(LetterOf(word, 2)));
+        Play("you=" + QString::fromStdString(Row(word)) + "; Command6; Command4");
+        Named("Command3")->setFocus();
+        for (const uint letter : QString::fromStdString(word).toUcs4())
+            TypeLetter(letter);
+        EXPECT_EQ(Spell(board.Text1), word);
+        EXPECT_EQ(Spoken("Text1(2)"), ("Your letter 2: " + second).toStdString());
+        Play("key Return");
+        ASSERT_FALSE(messages.empty());
+        EXPECT_EQ(messages.front(), "Quorvel2: Word Accepted");
+        // A letter that is bought, and the words that are guessed.
+        Play("you:100; Word1(2)");
+        EXPECT_EQ(Named<QAbstractButton>("Word1(2)")->text(), second);
+        EXPECT_EQ(Spoken("Word1(2)"), "Hidden word 1, letter 2: " + second.toStdString());
+        messages.clear();
+        Play("Text6=#1; Text7=#2; Text8=#3; Command7");
+        ASSERT_FALSE(messages.empty());
+        EXPECT_EQ(messages.front(), "Quorvel2: CORRECT!! Well Done");
+        EXPECT_EQ(answers, "");
     }
 }
 
