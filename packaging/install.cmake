@@ -17,7 +17,7 @@ set(made ${PROJECT_BINARY_DIR}/packaging)
 # Beside bin/ and not simply in the data folder, which may be moved: the program looks for it there.
 cmake_path(SET word_list_folder NORMALIZE ${CMAKE_INSTALL_BINDIR}/../share/quorvel2)
 
-# Unless the packager has chosen, the papers lie under the name of the program.
+# Unless the packager has chosen, the documents lie under the name of the program.
 if(NOT "$CACHE{CMAKE_INSTALL_DOCDIR}")
   set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/quorvel2)
 endif()
