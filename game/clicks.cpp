@@ -10,8 +10,6 @@
 #include "game/moving_letters.h"
 #include "game/start_of_game.h"
 
-#include <algorithm>
-
 namespace {
 
 template <auto frame> bool In(const Board& board, std::int16_t /*Index*/)
@@ -83,8 +81,10 @@ std::span<const Click> Clicks()
 
 const Click* FindClick(std::string_view control)
 {
-    const auto* row = std::ranges::find(clicks, control, &Click::Control);
-    return row == std::end(clicks) ? nullptr : row;
+    for (const Click& click : clicks)
+        if (control == click.Control)
+            return &click;
+    return nullptr;
 }
 
 bool Deliver(Game& game, const Click& click, std::int16_t Index)

@@ -37,8 +37,8 @@ bool AllLettersEqual(const Board& board)
 {
     const auto isFirst
         = [&board](const LetterBox& box) { return box.Text == board.MyLetters(1).Text; };
-    return std::ranges::all_of(board.MyLetters, isFirst)
-        && std::ranges::all_of(board.SwapLetters, isFirst);
+    return std::all_of(board.MyLetters.begin(), board.MyLetters.end(), isFirst)
+        && std::all_of(board.SwapLetters.begin(), board.SwapLetters.end(), isFirst);
 }
 
 void ExchangeAtRandom(Game& game)

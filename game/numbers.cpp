@@ -1,33 +1,30 @@
 #include "game/numbers.h"
 
-#include <algorithm>
 #include <array>
 #include <cassert>
-#include <charconv>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 
 double NumberOf(std::string_view text)
 {
-    double number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    assert(read.ec == std::errc() && read.ptr == text.data() + text.size());
+    const std::string digits(text);
+    char* end = nullptr;
+    const double number = std::strtod(digits.c_str(), &end);
+    assert(!digits.empty() && digits.front() != ' ' && *end == '\0');
     return number;
 }
 
 double LeadingNumberOf(std::string_view text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    double number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
+    return std::strtod(std::string(text).c_str(), nullptr);
 }
 
 std::string PlainForm(double number)
 {
-    std::array<char, std::numeric_limits<double>::max_exponent10 + 3> digits; // a sign, all digits
-    const auto written = std::to_chars(
-        digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed, 0);
-    return {digits.data(), written.ptr};
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 3> digits; // a sign, an end
+    const int written = std::snprintf(digits.data(), digits.size(), "%.0f", number);
+    return {digits.data(), static_cast<std::size_t>(written)};
 }
 
 std::string PaddedForm(double number)

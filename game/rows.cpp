@@ -1,7 +1,5 @@
 #include "game/rows.h"
 
-#include <algorithm>
-
 std::string Spell(const LetterRow& row)
 {
     std::string word;
@@ -12,12 +10,18 @@ std::string Spell(const LetterRow& row)
 
 bool HasEmptyBox(const LetterRow& row)
 {
-    return std::ranges::any_of(row, [](const LetterBox& box) { return box.Text.empty(); });
+    for (const LetterBox& box : row)
+        if (box.Text.empty())
+            return true;
+    return false;
 }
 
 bool HoldsLetters(const LetterRow& row)
 {
-    return !std::ranges::all_of(row, [](const LetterBox& box) { return box.Text.empty(); });
+    for (const LetterBox& box : row)
+        if (!box.Text.empty())
+            return true;
+    return false;
 }
 
 void Empty(LetterRow& row)

@@ -82,5 +82,5 @@ void SearchForWord(Game& game)
 
 void SortLetters(Board& board)
 {
-    std::ranges::sort(board.SortBuffer);
+    std::sort(board.SortBuffer.begin(), board.SortBuffer.end());
 }

@@ -41,9 +41,9 @@ std::size_t SizeOfLetter(std::string_view bytes)
     const std::size_t size = ones == 0 ? 1 : ones;
     if (ones == 1 || size >= ofSize.size() || size > bytes.size())
         return 0;
-    if (!std::ranges::all_of(bytes.substr(1, size - 1), ContinuesLetter))
-        return 0;
     std::string_view text = bytes.substr(0, size);
+    if (!std::all_of(text.begin() + 1, text.end(), ContinuesLetter))
+        return 0;
     const char32_t letter = TakeFirstLetter(text);
     const bool surrogate = letter >= 0xD800 && letter <= 0xDFFF;
     return letter < ofSize[size].first || letter > ofSize[size].last || surrogate ? 0 : size;

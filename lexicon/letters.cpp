@@ -18,7 +18,8 @@ std::size_t SizeOfFirst(std::string_view text)
 
 std::size_t CountLetters(std::string_view text)
 {
-    return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, ContinuesLetter));
+    return text.size()
+        - static_cast<std::size_t>(std::count_if(text.begin(), text.end(), ContinuesLetter));
 }
 
 std::string_view LetterOf(std::string_view text, int k)

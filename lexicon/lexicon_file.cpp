@@ -123,7 +123,7 @@ std::string_view LexiconFile::ReadRecord()
         return ReadQuoted(begin + 1);
     const char* end = EndOfField(begin, end_);
     next_ = end == end_ ? end : AfterSeparator(end, end_);
-    return {begin, end};
+    return {begin, static_cast<std::size_t>(end - begin)};
 }
 
 void LexiconFile::Close()
@@ -139,5 +139,5 @@ std::string_view LexiconFile::ReadQuoted(const char* begin)
     while (after != end_ && *after == ' ')
         ++after;
     next_ = after != end_ && EndsField(*after) ? AfterSeparator(after, end_) : after;
-    return {begin, end};
+    return {begin, static_cast<std::size_t>(end - begin)};
 }

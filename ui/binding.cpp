@@ -1,8 +1,5 @@
 #include "ui/binding.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
 
 constexpr BoundField boundFields[] = {
@@ -42,6 +39,8 @@ std::span<const BoundField> BoundFields()
 
 const Field* FindField(std::string_view control)
 {
-    const auto* row = std::ranges::find(boundFields, control, &BoundField::Control);
-    return row == std::end(boundFields) ? nullptr : &row->Shows;
+    for (const BoundField& field : boundFields)
+        if (control == field.Control)
+            return &field.Shows;
+    return nullptr;
 }

@@ -5,16 +5,14 @@
 
 #include <QWidget>
 
-#include <algorithm>
+#include <string>
 
 const BuiltControl& FindControl(const Controls& controls, std::string_view name, int number)
 {
-    const auto found = std::ranges::find_if(controls, [=](const BuiltControl& control) {
-        return name == control.Row->Name && control.Number == number;
-    });
-    if (found == controls.end())
-        qFatal("there is no control %s with a box %d", std::string(name).c_str(), number);
-    return *found;
+    for (const BuiltControl& control : controls)
+        if (name == control.Row->Name && control.Number == number)
+            return control;
+    qFatal("there is no control %s with a box %d", std::string(name).c_str(), number);
 }
 
 void StopOverWrongKind(const BuiltControl& control)

@@ -26,8 +26,8 @@ constexpr std::pair<LetterRow Board::*, LetterRow Board::*> guessedWords[] = {
 bool IsKnown(const Board& board, LetterRow Board::* guess, int number)
 {
     const std::string& letter = (board.*guess)(number).Text;
-    const auto* pair = std::ranges::find(
-        guessedWords, guess, &std::pair<LetterRow Board::*, LetterRow Board::*>::first);
+    const auto* pair = std::find_if(std::begin(guessedWords), std::end(guessedWords),
+        [guess](const auto& rows) { return rows.first == guess; });
     return !letter.empty() && letter == (board.*pair->second)(number).Text;
 }
 

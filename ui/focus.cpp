@@ -16,7 +16,8 @@ constexpr const char* guessRows[] = {"Text6", "Text7", "Text8"};
 bool IsInPlay(const Controls& controls, const Board& board, const QWidget& widget)
 {
     for (const QWidget* part = &widget; part != nullptr; part = part->parentWidget()) {
-        const auto control = std::ranges::find(controls, part, &BuiltControl::Widget);
+        const auto control = std::find_if(controls.begin(), controls.end(),
+            [part](const BuiltControl& built) { return built.Widget == part; });
         if (control != controls.end() && !(IsOnView(*control, board) && IsEnabled(*control, board)))
             return false;
     }

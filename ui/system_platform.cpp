@@ -1,10 +1,10 @@
 #include "ui/system_platform.h"
 
 #include <algorithm>
-#include <bit>
 #include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <ctime>
 
 float SystemPlatform::DrawRandom()
@@ -16,7 +16,10 @@ float SystemPlatform::DrawRandom()
 void SystemPlatform::SeedRandom(float seed)
 {
     // All bits of the number count, those of its fraction too.
-    generator_.seed(std::bit_cast<std::uint32_t>(seed));
+    std::uint32_t bits = 0;
+    static_assert(sizeof bits == sizeof seed);
+    std::memcpy(&bits, &seed, sizeof bits);
+    generator_.seed(bits);
 }
 
 float SystemPlatform::ClockSeconds()
