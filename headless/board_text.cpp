@@ -136,20 +136,24 @@ std::vector<std::string> NamesOfArranging()
     return names;
 }
 
-const std::vector<std::string> arranging = NamesOfArranging();
+const std::vector<std::string>& Arranging()
+{
+    static const std::vector<std::string> names = NamesOfArranging();
+    return names;
+}
 
 std::string OffText(const Board& board)
 {
     std::string off;
     std::string on = "arranging";
     long count = 0;
-    for (const std::string& control : arranging) {
+    for (const std::string& control : Arranging()) {
         if (FindClick(control)->Enabled(board, 0))
             on += "-" + control;
         else
             Append(off, control, ','), ++count;
     }
-    return count * 2 > std::ssize(arranging) ? on : off;
+    return count * 2 > std::ssize(Arranging()) ? on : off;
 }
 
 void SetOff(Board& board, const std::string& off)
@@ -160,8 +164,8 @@ void SetOff(Board& board, const std::string& off)
         button->Enabled = !all;
     const std::vector<std::string> names = Split(off, all ? '-' : ',');
     for (std::size_t k = all ? 1 : 0; k < names.size() && !off.empty(); ++k) {
-        const auto place = std::ranges::find(arranging, names[k]) - arranging.begin();
-        Demand(place < std::ssize(arranging), names[k] + " arranges no letters");
+        const auto place = std::ranges::find(Arranging(), names[k]) - Arranging().begin();
+        Demand(place < std::ssize(Arranging()), names[k] + " arranges no letters");
         group[static_cast<std::size_t>(place)]->Enabled = all;
     }
 }
