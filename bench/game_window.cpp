@@ -7,6 +7,7 @@
 #include "bench/window_probe.h"
 #include "game/board.h"
 #include "game/game.h"
+#include "ui/board_style.h"
 #include "ui/main_window.h"
 #include "ui/qt_view.h"
 #include "ui/system_platform.h"
@@ -93,7 +94,7 @@ int main(int argc, char* argv[])
         return 1;
     }
     const std::string mode = argv[2];
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new BoardStyle);
     QGuiApplication::setDesktopFileName(QStringLiteral("quorvel2"));
     QApplication application(argc, argv);
     Board board;

@@ -17,14 +17,14 @@ void LetGo(Board& board)
     board.HeldIndex = 0;
 }
 
+} // namespace
+
 // After "+" the red letter turns with the row. A laying out disables "+" as well, but then "Lay Out
 // Word" is disabled with it.
 bool RedLetterTurnsToo(const Board& board)
 {
     return !board.Command16.Enabled && board.Command9.Enabled;
 }
-
-} // namespace
 
 // A box of "Your Letters": lifts its letter, or puts down the one in the hand.
 void Text1_Click(Game& game, std::int16_t Index)

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+struct Board;
 struct Game;
 
 void Text1_Click(Game& game, std::int16_t Index);       // a box of "Your Letters"
@@ -12,3 +13,6 @@ void Command5_Click(Game& game);                        // ">"
 void Command16_Click(Game& game);                       // "+"
 void Command6_Click(Game& game);                        // "Mix Letters"
 void Command15_Click(Game& game);                       // "Rotate Swap Letters"
+
+// True when "<" and ">" run through the red letter: after "+", until "Lay Out Word" takes it back.
+bool RedLetterTurnsToo(const Board& board);

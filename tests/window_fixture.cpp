@@ -1,5 +1,7 @@
 #include "window_fixture.h"
 
+#include "ui/board_style.h"
+
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QWindow>
@@ -117,7 +119,7 @@ int main(int argc, char* argv[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) // another one shows the tests on a display
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new BoardStyle);
     const QApplication application(argc, argv);
     QFont desktop;
     desktop.setPixelSize(14);

@@ -66,6 +66,41 @@ TEST_F(Window, HoldsItsSize)
     EXPECT_EQ(Named("Frame1")->pos(), panel);
 }
 
+TEST_F(Window, FillsTheRoomThatItIsGiven)
+{
+    Play(start);
+    const QRect atFirst = Named("Frame2")->geometry();
+    struct Row {
+        QSize room;
+        double factor; // of the size of full scale
+    };
+    for (const Row& row : {Row{{1920, 1040}, 1040 / 465.0}, Row{{3840, 2160}, 2160 / 465.0},
+             Row{{1000, 2000}, 1000 / 649.0}}) {
+        window.overrideWindowState(Qt::WindowMaximized); // a screen here is too small to do it
+        window.windowHandle()->resize(row.room);
+        QCoreApplication::processEvents();
+        const QRect frame = Named("Frame2")->geometry();
+        EXPECT_NEAR(frame.width(), atFirst.width() * row.factor, 2) << row.factor;
+        const QRect columns
+            = QRect(Named("Frame4")->geometry()).united(Named("Frame7")->geometry());
+        EXPECT_NEAR(columns.left(), window.width() - 1 - columns.right(), 2);
+        EXPECT_TRUE(window.rect().contains(columns.united(Named("Frame5")->geometry())));
+        EXPECT_GT(Named("Text1(3)")->font().pixelSize(), 24 * row.factor - 1);
+        EXPECT_EQ(Named("Text1(6)")->geometry().right(),
+            Named("SwapLetters(1)")->geometry().left() + static_cast<int>(row.factor) - 1);
+        EXPECT_EQ(board.WindowWidth, 9960);
+        EXPECT_EQ(board.WindowHeight, 7484);
+        Click("Text1(2)");
+        EXPECT_EQ(board.HeldIndex, 2) << "what is seen is what is clicked";
+        Click("Text1(2)");
+    }
+    window.overrideWindowState(Qt::WindowNoState);
+    window.windowHandle()->resize(800, 600);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.frameSize(), QSize(664, 499));
+    EXPECT_EQ(Named("Frame2")->geometry(), atFirst);
+}
+
 TEST_F(Window, DrawsEdgesThatCanBeSeen)
 {
     // At a scale that puts pixels between the dots of the screen a line is one dot all the same.

@@ -1,7 +1,7 @@
 #include "ui/builder.h"
 
 #include "game/clicks.h"
-#include "ui/coloured_button.h"
+#include "ui/board_button.h"
 #include "ui/focus.h"
 #include "ui/guess_box.h"
 #include "ui/letter_tile.h"
@@ -11,8 +11,6 @@
 #include "ui/spoken.h"
 #include "ui/titled_frame.h"
 #include "ui/used_words_list.h"
-
-#include <QCheckBox>
 
 #include <map>
 #include <string_view>
@@ -26,10 +24,10 @@ template <typename Labelled> QWidget* Captioned(QWidget* parent, const Control& 
 
 QWidget* MakeButton(QWidget* parent, const Control& row)
 {
-    const QString caption = QString::fromUtf8(row.Caption);
-    QPushButton* button
-        = row.Background ? new ColouredButton(caption, parent) : new QPushButton(caption, parent);
+    auto* button = new BoardButton(QString::fromUtf8(row.Caption), parent);
     button->setAutoDefault(true); // Enter clicks too
+    if (row.Heavy)
+        button->MakeHeavy();
     if (*row.Caption == '\0')
         button->setFocusPolicy(Qt::NoFocus);
     return button;
@@ -59,7 +57,7 @@ QWidget* MakeWidget(QWidget* parent, const Control& row)
     case Kind::Option:
         return Captioned<LevelOption>(parent, row);
     case Kind::Check:
-        return Captioned<QCheckBox>(parent, row);
+        return Captioned<BoardCheck>(parent, row);
     case Kind::List:
         return new UsedWordsList(parent);
     case Kind::Label:

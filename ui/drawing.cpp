@@ -1,5 +1,6 @@
 #include "ui/drawing.h"
 
+#include "game/moving_letters.h"
 #include "ui/guess_box.h"
 #include "ui/letter_tile.h"
 #include "ui/places.h"
@@ -31,6 +32,19 @@ bool IsKnown(const Board& board, LetterRow Board::* guess, int number)
     return !letter.empty() && letter == (board.*pair->second)(number).Text;
 }
 
+// What a click on the tile does now. After "+" the red letter cannot be clicked and is in play.
+void ShowEdge(const BuiltControl& control, const Board& board, const QString& text)
+{
+    const Works works = control.Row->ClickWorks;
+    const bool now = works == Works::Always || (works == Works::WhenEmpty) == text.isEmpty();
+    const bool enabled = IsEnabled(control, board);
+    const bool red = control.Shows == FindField("SwapLetters") && control.Number == 1;
+    As<LetterTile>(control).SetEdge(!enabled ? Edge::OutOfPlay
+            : now                            ? Edge::Raised
+                                             : Edge::Flat,
+        !enabled && !(red && RedLetterTurnsToo(board)));
+}
+
 // A letter in the hand is in no box; the one that it came from shows it faintly.
 QString FaintLetter(const LetterBox& box, const Board& board)
 {
@@ -42,7 +56,7 @@ QString FaintLetter(const LetterBox& box, const Board& board)
 struct ShowField {
     const BuiltControl& control;
     const Board& board;
-    double pixelsPerTwip;
+    const Scale& scale;
 
     void operator()(LetterRow Board::* row) const
     {
@@ -56,10 +70,12 @@ struct ShowField {
             return;
         }
         const QString faint = FaintLetter(box, board);
-        if (control.Row->Is == Kind::ShownBox)
+        if (control.Row->Is == Kind::ShownBox) {
             As<ShownBox>(control).setText(text);
-        else
+        } else {
             As<LetterTile>(control).SetLetter(text, faint);
+            ShowEdge(control, board, text);
+        }
         NameBox(control, text, faint, IsEnabled(control, board));
     }
     void operator()(NumberBox Board::* number) const
@@ -72,7 +88,7 @@ struct ShowField {
     void operator()(Label Board::* /*label*/) const { }
     void operator()(Panel Board::* panel) const
     {
-        PlacePanel(*control.Widget, board.*panel, pixelsPerTwip);
+        PlacePanel(*control.Widget, board.*panel, scale);
     }
     void operator()(WordList Board::* words) const
     {
@@ -91,12 +107,12 @@ struct ShowField {
 
 } // namespace
 
-void ShowControls(const Controls& controls, const Board& board, double pixelsPerTwip)
+void ShowControls(const Controls& controls, const Board& board, const Scale& scale)
 {
     for (const BuiltControl& control : controls) {
         QWidget& widget = *control.Widget;
         if (control.Shows != nullptr)
-            std::visit(ShowField{control, board, pixelsPerTwip}, *control.Shows);
+            std::visit(ShowField{control, board, scale}, *control.Shows);
         if (IsEnabled(control, board) && !widget.isEnabledTo(widget.parentWidget()))
             widget.setEnabled(true);
         if (IsOnView(control, board) && widget.isHidden())

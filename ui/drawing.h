@@ -4,10 +4,11 @@
 #include "ui/controls.h"
 
 struct Board;
+struct Scale;
 
 // Shows in every control what the board has, and brings into play what comes into play; what has
 // not changed is left alone.
-void ShowControls(const Controls& controls, const Board& board, double pixelsPerTwip);
+void ShowControls(const Controls& controls, const Board& board, const Scale& scale);
 
 // Disables and hides what the board has taken out of play. It comes second, so that the focus can
 // go on before it is taken away.

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
+#include <vector>
 
 namespace {
 
@@ -53,13 +55,13 @@ QSize RoomFor(const Control& row, const QWidget& widget)
         return widget.size() - QSize(6, 4);
     case Kind::Option:
         return widget.size()
-            - QSize(style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth)
-                    + style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing),
+            - QSize(style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &widget)
+                    + style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, &widget),
                 2);
     case Kind::Check:
         return widget.size()
-            - QSize(style.pixelMetric(QStyle::PM_IndicatorWidth)
-                    + style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing),
+            - QSize(style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &widget)
+                    + style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &widget),
                 2);
     default:
         return widget.size();
@@ -77,39 +79,72 @@ double FullSize(const Lettering& font, double pixelsPerTwip)
     return twips * pixelsPerTwip;
 }
 
-// The font of the table, or for this one control a smaller one that its caption fits in with.
-QFont FontOf(const Control& row, const QWidget& widget, const QString& family, double pixelsPerTwip)
+QFont FontOf(const Control& row, const QString& family, int pixels)
 {
-    const QString caption = QString::fromUtf8(row.Caption);
-    const QSize room = RoomFor(row, widget);
     QFont font(family);
     // The black face is heavy by itself, and what stands in for it has to be.
     font.setBold(row.Font.Bold || row.Font.Name == Face::ArialBlack);
-    for (int pixels = qRound(FullSize(row.Font, pixelsPerTwip));; --pixels) {
-        font.setPixelSize(std::max(pixels, 1));
-        const QFontMetrics metrics(font);
-        if (pixels <= 1 || caption.isEmpty()
-            || (metrics.horizontalAdvance(caption) <= room.width()
-                && metrics.tightBoundingRect(caption).height() <= room.height()))
-            return font;
-    }
+    font.setPixelSize(pixels);
+    return font;
 }
+
+// Pixels of the font of the table, or fewer so that the caption fits in.
+int FittingSize(
+    const Control& row, const QWidget& widget, const QString& family, double pixelsPerTwip)
+{
+    const QString caption = QString::fromUtf8(row.Caption);
+    const QSize room = RoomFor(row, widget);
+    int pixels = std::max(1, qRound(FullSize(row.Font, pixelsPerTwip)));
+    for (; pixels > 1 && !caption.isEmpty(); --pixels) {
+        const QFontMetrics metrics(FontOf(row, family, pixels));
+        if (metrics.horizontalAdvance(caption) <= room.width()
+            && metrics.tightBoundingRect(caption).height() <= room.height())
+            break;
+    }
+    return pixels;
+}
+
+// Controls of one named font keep together: where a caption of one of them needs smaller letters,
+// those of the others are at most so many pixels larger.
+constexpr int mostApart = 1;
+
+struct SameFont {
+    bool operator()(const Lettering& one, const Lettering& other) const
+    {
+        return std::tie(one.Name, one.Points, one.Bold)
+            < std::tie(other.Name, other.Points, other.Bold);
+    }
+};
 
 } // namespace
 
 void GiveFonts(Controls& controls, double pixelsPerTwip)
 {
-    QStringList installed; // asked for once: the list is made anew at every question
-    std::map<Face, QString> families;
+    std::vector<BuiltControl*> waiting;
     for (BuiltControl& control : controls) {
-        if (control.HasFont || !control.Widget->isVisibleTo(control.Widget->window()))
-            continue;
-        if (installed.isEmpty())
-            installed = QFontDatabase::families();
-        QString& family = families[control.Row->Font.Name];
-        if (family.isEmpty())
-            family = FamilyOf(control.Row->Font.Name, installed);
-        control.Widget->setFont(FontOf(*control.Row, *control.Widget, family, pixelsPerTwip));
+        if (!control.HasFont && control.Widget->isVisibleTo(control.Widget->window()))
+            waiting.push_back(&control);
+    }
+    if (waiting.empty())
+        return;
+    const QStringList installed = QFontDatabase::families(); // made anew at every question
+    std::map<Face, QString> families;
+    std::map<Lettering, int, SameFont> smallest;
+    std::vector<int> sizes;
+    for (const BuiltControl* control : waiting) {
+        const Control& row = *control->Row;
+        const auto family = families.try_emplace(row.Font.Name, FamilyOf(row.Font.Name, installed));
+        sizes.push_back(FittingSize(row, *control->Widget, family.first->second, pixelsPerTwip));
+        int& size = smallest.try_emplace(row.Font, sizes.back()).first->second;
+        size = std::min(size, sizes.back());
+    }
+    for (std::size_t place = 0; place < waiting.size(); ++place) {
+        BuiltControl& control = *waiting[place];
+        const Lettering& font = control.Row->Font;
+        const bool named = font.Name != Face::Plain;
+        const int pixels
+            = named ? std::min(sizes[place], smallest[font] + mostApart) : sizes[place];
+        control.Widget->setFont(FontOf(*control.Row, families[font.Name], pixels));
         control.HasFont = true;
     }
 }

@@ -1,6 +1,6 @@
 #include "ui/guess_box.h"
 
-#include "ui/flat_box.h"
+#include "ui/box_look.h"
 
 #include <QKeyEvent>
 #include <QPainter>

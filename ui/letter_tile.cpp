@@ -1,8 +1,8 @@
 #include "ui/letter_tile.h"
 
-#include "ui/flat_box.h"
-
 #include <QKeyEvent>
+
+#include <utility>
 
 LetterTile::LetterTile(QWidget* parent)
     : QPushButton(parent)
@@ -17,16 +17,26 @@ void LetterTile::SetLetter(const QString& letter, const QString& faint)
 {
     if (text() != letter)
         setText(letter);
-    if (faint_ != faint) {
-        faint_ = faint;
+    if (std::exchange(faint_, faint) != faint)
         update();
-    }
+}
+
+void LetterTile::SetEdge(Edge edge, bool faded)
+{
+    const bool faintness = std::exchange(faded_, faded) != faded;
+    if (std::exchange(edge_, edge) != edge || faintness)
+        update();
 }
 
 void LetterTile::paintEvent(QPaintEvent* /*event*/)
 {
     const bool faint = text().isEmpty();
-    DrawFlatBox(*this, {.text = faint ? faint_ : text(), .faint = faint, .pressed = isDown()});
+    DrawBox(*this,
+        {.text = faint ? faint_ : text(),
+            .edge = edge_,
+            .faded = faded_,
+            .faint = faint,
+            .pressed = isDown()});
 }
 
 // Left and Right stay in the row; Up and Down leave it, as the toolkit has it for any button.
@@ -54,5 +64,5 @@ ShownBox::ShownBox(QWidget* parent)
 
 void ShownBox::paintEvent(QPaintEvent* /*event*/)
 {
-    DrawFlatBox(*this, {.text = text()});
+    DrawBox(*this, {.text = text()});
 }

@@ -2,6 +2,7 @@
 // shows.
 #pragma once
 
+#include "ui/box_look.h"
 #include "ui/row_place.h"
 
 #include <QLabel>
@@ -17,6 +18,9 @@ public:
     // The letter in the box; and where the box is empty, a letter that is shown faintly in it.
     void SetLetter(const QString& letter, const QString& faint);
 
+    // What a click does now, and whether the colours are those of a box out of play.
+    void SetEdge(Edge edge, bool faded);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -25,6 +29,8 @@ protected:
 private:
     RowPlace inRow_{*this};
     QString faint_;
+    bool faded_ = false;
+    Edge edge_ = Edge::Flat;
 };
 
 class ShownBox : public QLabel {

@@ -1,6 +1,7 @@
 // The program: a board, a view, a platform and the window that they meet in.
 #include "game/board.h"
 #include "game/game.h"
+#include "ui/board_style.h"
 #include "ui/main_window.h"
 #include "ui/qt_view.h"
 #include "ui/system_platform.h"
@@ -24,7 +25,7 @@ std::filesystem::path PlaceOfWordList()
 
 int main(int argc, char* argv[])
 {
-    QApplication::setStyle(QStringLiteral("fusion")); // keeps the board's colours on every desktop
+    QApplication::setStyle(new BoardStyle);
     QGuiApplication::setDesktopFileName(QStringLiteral("quorvel2"));
     QApplication application(argc, argv);
     Board board;

@@ -36,14 +36,14 @@ void WriteTick(Board& board, bool ticked)
 MainWindow::MainWindow(Game& game)
     : game_(game)
     , controls_(BuildControls(*this))
-    , size_(*this, game.board)
+    , size_(*this, game.board, [this] { Rescale(); })
     , typing_(controls_, game.board)
 {
     setWindowIcon(QIcon(u":/quorvel2.png"_s));
     Form_Load(game_);
     ConnectClicks();
     ConnectTyping();
-    PlaceControls(controls_, game_.board, size_.PixelsPerTwip());
+    PlaceControls(controls_, game_.board, size_.Present());
     ShowBoard();
     FocusOnPlay(controls_, game_.board);
     qApp->installEventFilter(&heldEnter_);
@@ -90,12 +90,12 @@ void MainWindow::ShowBoard()
 {
     if (const QString caption = QString::fromUtf8(game_.board.Caption); windowTitle() != caption)
         setWindowTitle(caption);
-    ShowControls(controls_, game_.board, size_.PixelsPerTwip());
+    ShowControls(controls_, game_.board, size_.Present());
     // What is disabled or hidden while it has the focus would hand it to its neighbour.
     if (!FocusStaysInPlay(controls_, game_.board))
         FocusOnPlay(controls_, game_.board);
     TakeOutOfPlay(controls_, game_.board);
-    GiveFonts(controls_, size_.PixelsPerTwip());
+    GiveFonts(controls_, size_.Present().PixelsPerTwip);
 }
 
 void MainWindow::Refresh()
@@ -117,36 +117,27 @@ QRect MainWindow::RoomForMessages() const
     return {topLeft, used.mapToGlobal(used.rect().bottomRight())};
 }
 
-void MainWindow::HoldSize()
+void MainWindow::Rescale()
 {
-    if (!size_.Form_Resize())
-        return;
-    PlaceControls(controls_, game_.board, size_.PixelsPerTwip());
-    GiveFonts(controls_, size_.PixelsPerTwip());
+    PlaceControls(controls_, game_.board, size_.Present());
+    GiveFonts(controls_, size_.Present().PixelsPerTwip);
 }
 
-void MainWindow::showEvent(QShowEvent* /*event*/)
+bool MainWindow::event(QEvent* event)
 {
-    HoldSize();
-}
-
-void MainWindow::resizeEvent(QResizeEvent* /*event*/)
-{
-    HoldSize();
-}
-
-// The borders that the window manager adds are known from the first move on; and a move can end on
-// another screen.
-void MainWindow::moveEvent(QMoveEvent* /*event*/)
-{
-    HoldSize();
-}
-
-void MainWindow::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::WindowStateChange)
-        HoldSize();
-    QWidget::changeEvent(event);
+    const bool handled = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Resize:
+    case QEvent::Move: // the borders are known from the first move on; one can end on another
+                       // screen
+    case QEvent::WindowStateChange:
+        size_.Form_Resize();
+        break;
+    default:
+        break;
+    }
+    return handled;
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event)

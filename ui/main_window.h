@@ -27,10 +27,7 @@ public:
     QRect RoomForMessages() const;
 
 protected:
-    void showEvent(QShowEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
@@ -39,7 +36,7 @@ private:
     void ConnectClicks();
     void ConnectTyping();
     void Click(const BuiltControl& control);
-    void HoldSize();
+    void Rescale();
 
     Game& game_;
     Controls controls_;

@@ -25,6 +25,9 @@ public:
         : QMessageBox(NoIcon, title, text, buttons, &window)
         , room_(room)
     {
+        // A box has its one size, and is not for maximising.
+        setWindowFlags(
+            Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
         setTextFormat(Qt::PlainText);
         setWindowModality(Qt::ApplicationModal);
         setDefaultButton(NoIsHarmless(title) ? No : Yes);
@@ -62,7 +65,7 @@ private:
     void Arrange()
     {
         auto* grid = qobject_cast<QGridLayout*>(layout());
-        if (QLayoutItem* indent = grid->itemAtPosition(0, 1); indent && indent->spacerItem())
+        if (QLayoutItem* indent = grid->itemAtPosition(0, 0); indent && indent->spacerItem())
             indent->spacerItem()->changeSize(0, 0);
         auto* text = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
         text->setContentsMargins(0, 0, 0, 0);

@@ -2,41 +2,61 @@
 
 #include "game/board.h"
 #include "ui/roster.h"
+#include "ui/titled_frame.h"
 
 #include <QWidget>
 
+#include <algorithm>
+
 namespace {
 
-QRect PlaceOf(const BuiltControl& control, double pixelsPerTwip)
+constexpr int sharedLine = 15; // twips by which the boxes of a row overlap
+
+// Of an edge, in whole pixels.
+int LineWidth(const Scale& scale)
+{
+    return std::max(1, static_cast<int>(sharedLine * scale.PixelsPerTwip + 0.01));
+}
+
+QRect PlaceOf(const BuiltControl& control, const Scale& scale)
 {
     const Control& row = *control.Row;
     const int steps = control.Number - row.Boxes.value_or(BoxNumbers()).First;
     const Place at = {row.At.Left + steps * row.Next.Right, row.At.Top + steps * row.Next.Down,
         row.At.Width, row.At.Height};
-    const auto pixels = [=](int twips) { return qRound(twips * pixelsPerTwip); };
-    // First and last pixels are rounded and not sizes: boxes that share a line, 15 twips wide,
-    // share its pixel at every scale.
-    return QRect(QPoint(pixels(at.Left), pixels(at.Top)),
-        QPoint(pixels(at.Left + at.Width - 15), pixels(at.Top + at.Height - 15)));
+    const auto pixels = [&](int twips) { return qRound(twips * scale.PixelsPerTwip); };
+    const int line = LineWidth(scale);
+    // First and last lines are rounded and not sizes: boxes that share a line share its pixels at
+    // every scale.
+    const QPoint first(pixels(at.Left), pixels(at.Top));
+    const QPoint last(
+        pixels(at.Left + at.Width - sharedLine), pixels(at.Top + at.Height - sharedLine));
+    const QRect place(first, last + QPoint(line - 1, line - 1));
+    return *row.In == '\0' ? place.translated(scale.Origin) : place;
 }
 
 } // namespace
 
-void PlaceControls(Controls& controls, const Board& board, double pixelsPerTwip)
+void PlaceControls(Controls& controls, const Board& board, const Scale& scale)
 {
+    const int line = LineWidth(scale);
     for (BuiltControl& control : controls) {
         if (control.Shows != nullptr && std::holds_alternative<Panel Board::*>(*control.Shows))
-            PlacePanel(
-                *control.Widget, board.*std::get<Panel Board::*>(*control.Shows), pixelsPerTwip);
+            PlacePanel(*control.Widget, board.*std::get<Panel Board::*>(*control.Shows), scale);
         else
-            control.Widget->setGeometry(PlaceOf(control, pixelsPerTwip));
+            control.Widget->setGeometry(PlaceOf(control, scale));
+        if (control.Row->Is == Kind::Frame)
+            As<TitledFrame>(control).SetLine(line);
+        else if (HasDrawnEdge(control.Row->Is))
+            control.Widget->setContentsMargins(line, line, line, line);
         control.HasFont = false;
     }
 }
 
-void PlacePanel(QWidget& widget, const Panel& panel, double pixelsPerTwip)
+void PlacePanel(QWidget& widget, const Panel& panel, const Scale& scale)
 {
-    const auto pixels = [=](double twips) { return qRound(twips * pixelsPerTwip); };
+    const auto pixels = [&](double twips) { return qRound(twips * scale.PixelsPerTwip); };
     widget.setGeometry(
-        pixels(panel.Left), pixels(panel.Top), pixels(panel.Width), pixels(panel.Height));
+        QRect(pixels(panel.Left), pixels(panel.Top), pixels(panel.Width), pixels(panel.Height))
+            .translated(scale.Origin));
 }

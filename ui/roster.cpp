@@ -14,8 +14,9 @@ constexpr Colour PaleCyan{128, 255, 255};
 constexpr Colour PaleGreen{128, 255, 128};
 constexpr Colour PaleYellow{255, 255, 128};
 constexpr Colour Red{255, 0, 0};
-// Pale orange letters need a dark ground to be read on.
-constexpr Colour DarkBrown{96, 32, 0};
+// Pale orange letters need a dark ground to be read on, and a quiet one: it is no colour of the
+// game.
+constexpr Colour Umber{74, 62, 54};
 
 constexpr Lettering Times(double points, bool bold = true)
 {
@@ -60,6 +61,7 @@ constexpr Control WordBoxes(const char* name, BoxNumbers boxes, int top, const c
         .Next = {.Right = 480},
         .Font = Times(18),
         .Background = shown ? Orange : PaleOrange,
+        .ClickWorks = Works::WhenEmpty,
         .Spoken = spoken,
         .SpokenWhenEmpty = ", costs 100 points"};
 }
@@ -123,6 +125,7 @@ constexpr Control roster[] = {
         .At = {600, 240, 375, 315},
         .Next = {.Right = 360},
         .Font = Times(11.25),
+        .ClickWorks = Works::WhenFilled,
         .Spoken = "Letter to lay out %1",
         .SpokenHelp = "Puts this letter in the next box of your letters"},
     PlainButton("Command9", "Frame6", {720, 600, 1935, 255}, "Lay Out Word", Times(9.75),
@@ -176,8 +179,14 @@ constexpr Control roster[] = {
         .Spoken = "Your score"},
     GameFrame("Frame10", "Frame4", {120, 3600, 3495, 975}, "These buttons end your go",
         Hobbit(9.75, false)),
-    PlainButton("Command3", "Frame10", {120, 240, 1695, 315}, "Submit Word", Times(9.75),
-        "Plays your six letters as a word and ends your go"),
+    {.Is = Kind::Button,
+        .Name = "Command3",
+        .In = "Frame10",
+        .At = {120, 240, 1695, 315},
+        .Caption = "Submit Word",
+        .Font = Times(9.75),
+        .Heavy = true,
+        .SpokenHelp = "Plays your six letters as a word and ends your go"},
     PlainButton("Command13", "Frame10", {1800, 240, 1575, 315}, "Pass", Times(9.75),
         "Ends your go and leaves the letters as they are"),
     PlainButton("Command14", "Frame10", {120, 600, 3255, 315}, "Jumble", Times(9.75),
@@ -212,9 +221,9 @@ constexpr Control roster[] = {
         .Name = "Label3",
         .In = "Frame3",
         .At = {120, 600, 3375, 375},
-        .Caption = "One swap a go: yellow, then lilac",
+        .Caption = "One swap, then a word of six letters",
         .Font = Times(11.25),
-        .Background = DarkBrown,
+        .Background = Umber,
         .Text = PaleOrange},
     {.Is = Kind::LetterTile,
         .Name = "SwapLetters",

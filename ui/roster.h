@@ -35,6 +35,9 @@ struct BoxNumbers {
     int Last = 0;
 };
 
+// When a click on a tile that is enabled does something.
+enum class Works { Always, WhenFilled, WhenEmpty };
+
 enum class Face {
     Plain,
     TimesNewRoman,
@@ -69,6 +72,8 @@ struct Control {
     std::optional<Colour> Background = {}; // none: as the desktop has it
     std::optional<Colour> Text = {};       // none on a named background: black
     const char* ToolTip = "";
+    Works ClickWorks = Works::Always; // of a tile
+    bool Heavy = false;               // a button with a heavier edge
 
     // What a screen reader says: the name, where %1 stands for the number of the box, then for a
     // box its letter or else the ending below; and what the control does.
@@ -76,6 +81,13 @@ struct Control {
     const char* SpokenWhenEmpty = ", empty";
     const char* SpokenHelp = "";
 };
+
+// Which kinds draw their edge themselves, in lines as wide as the scale of the board asks for.
+constexpr bool HasDrawnEdge(Kind kind)
+{
+    return kind == Kind::ShownBox || kind == Kind::LetterTile || kind == Kind::GuessBox
+        || kind == Kind::Button;
+}
 
 // All controls, each standing above those before it. A frame comes before what it holds.
 std::span<const Control> Roster();

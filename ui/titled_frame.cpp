@@ -1,5 +1,7 @@
 #include "ui/titled_frame.h"
 
+#include "ui/box_look.h"
+
 #include <QEvent>
 #include <QPainter>
 
@@ -14,24 +16,25 @@ bool TitledFrame::event(QEvent* event)
     return QGroupBox::event(event);
 }
 
+// A frame with a ground of its own is filled to its line and has its caption inside. One with no
+// caption stands on what is below it, and has no line there.
 void TitledFrame::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const QFontMetrics metrics(font());
     const QColor ground = palette().color(QPalette::Window);
     const QColor ink = palette().color(foregroundRole());
-    const int top = title().isEmpty() ? 0 : metrics.height() / 2;
+    const bool named = foregroundRole() != QPalette::WindowText;
+    const bool filled = autoFillBackground();
+    const int top = title().isEmpty() || filled ? 0 : metrics.height() / 2;
 
-    QColor line = ink;
-    line.setAlpha(90);
-    painter.setPen(line);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawRoundedRect(QRectF(0.5, top + 0.5, width() - 1, height() - top - 1), 3, 3);
+    const QRect box = rect().adjusted(0, top, 0, title().isEmpty() ? 2 * line_ : 0);
+    DrawOutline(painter, box, line_, Blend(ink, ground, named ? 0.75 : 0.35));
     if (title().isEmpty())
         return;
-
-    const QRect caption(8, 0, metrics.horizontalAdvance(title()), metrics.height());
-    painter.fillRect(caption.adjusted(-3, 0, 3, 0), ground);
+    const QRect caption(
+        8 * line_, filled ? 3 * line_ : 0, metrics.horizontalAdvance(title()), metrics.height());
+    painter.fillRect(caption.adjusted(-3 * line_, 0, 3 * line_, 0), ground);
     painter.setPen(ink);
     painter.drawText(caption, Qt::AlignLeft | Qt::TextDontClip, title());
 }

@@ -1,6 +1,6 @@
 #include "ui/used_words_list.h"
 
-#include "ui/flat_box.h"
+#include "ui/box_look.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -49,5 +49,5 @@ void UsedWordsList::paintEvent(QPaintEvent* event)
     QListWidget::paintEvent(event);
     QPainter painter(viewport());
     if (hasFocus())
-        DrawFocusRing(painter, viewport()->rect());
+        DrawFocusRing(painter, viewport()->rect(), 1);
 }

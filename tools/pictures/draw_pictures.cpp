@@ -1,6 +1,8 @@
 // Draws the pictures of the documents from the real window: the level panel and a game in progress,
 // on a light and on a dark desktop. The same word list gives the same pictures.
+#include "headless/board_text.h"
 #include "headless/script.h"
+#include "ui/board_style.h"
 #include "ui/main_window.h"
 
 #include <QApplication>
@@ -18,6 +20,12 @@ constexpr const char* gameInProgress
     = "Option1:3 Command1 word:1 Command14 word:2 Command14 word:3 "
       "Command14 word:4 Word2:3 Text1:2 SwapLetters:4 Text1:5";
 
+// The letters of a game laid so that one swap makes a word, and a go with them in six steps: the
+// letters, one in the hand, the swap, the word begun, the whole word, and the letters after it.
+constexpr const char* lettersOfAGo = "you=pamere me=finere swap=ulnted";
+constexpr const char* aGo[] = {"", "Text1:3", "SwapLetters:4", "Command9 Text2:5 Text2:4",
+    "Text2:1 Text2:6 Text2:2 Text2:3", "Command3"};
+
 QPalette DarkDesktop()
 {
     const QColor ground(45, 45, 48);
@@ -31,13 +39,33 @@ QPalette DarkDesktop()
     return palette;
 }
 
-void Draw(MainWindow& window, const QString& file)
+// The window, or a part of it.
+void Draw(MainWindow& window, const QString& file, QRect part = QRect())
 {
-    QPixmap picture(window.size() * scale);
+    if (part.isEmpty())
+        part = window.rect();
+    QPixmap picture(part.size() * scale);
     picture.setDevicePixelRatio(scale);
     picture.fill(window.palette().color(QPalette::Window));
-    window.render(&picture);
+    window.render(&picture, QPoint(), QRegion(part));
     Demand(picture.save(file), "cannot write " + file.toStdString());
+}
+
+// The player's letters and the swap row, down to the buttons that end the go.
+void DrawGo(const char* wordList, const QString& files)
+{
+    const QRect letters(0, 0, 505, 313);
+    HeadlessGame game(wordList, HeadlessPlatform(36000));
+    MainWindow window(game.game);
+    window.show();
+    game.Play("Option1:4 Command1");
+    SetBoard(game.board, lettersOfAGo);
+    int picture = 0;
+    for (const char* events : aGo) {
+        game.Play(events);
+        window.ShowBoard();
+        Draw(window, files.arg(QStringLiteral("go-%1").arg(++picture)), letters);
+    }
 }
 
 void DrawDesktop(const char* wordList, const QString& files, const QPalette& desktop)
@@ -57,11 +85,12 @@ void DrawDesktop(const char* wordList, const QString& files, const QPalette& des
 // Takes the word list and the folder for the pictures.
 int main(int argc, char* argv[])
 try {
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new BoardStyle);
     const QApplication application(argc, argv);
     Demand(argc == 3, "usage: draw_pictures WORD_LIST FOLDER");
     const QString folder = QString::fromLocal8Bit(argv[2]);
     DrawDesktop(argv[1], folder + QStringLiteral("/%1.png"), QApplication::palette());
+    DrawGo(argv[1], folder + QStringLiteral("/%1.png"));
     DrawDesktop(argv[1], folder + QStringLiteral("/%1-dark.png"), DarkDesktop());
     return EXIT_SUCCESS;
 } catch (const std::exception& error) {
