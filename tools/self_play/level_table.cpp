@@ -92,7 +92,8 @@ void MeasureLevels(const std::filesystem::path& lexicon, const std::string& data
     std::vector<LevelGames> played(levels);
     for (std::int16_t level = 1; level <= levels; ++level) {
         for (std::uint32_t seed = 1; seed <= games; ++seed)
-            played[level - 1U].push_back(PlayGame(lexicon, player, level, seed, mostGoes, story));
+            played[static_cast<std::size_t>(level) - 1].push_back(
+                PlayGame(lexicon, player, level, seed, mostGoes, story));
     }
     std::puts("| Level | Words per 100 goes | Ahead of the next level by | Points per go "
               "| Fruitless goes | Games with a claim | Goes until it, mean | median "
