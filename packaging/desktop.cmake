@@ -1,5 +1,7 @@
 # What a freedesktop menu and `man` look for.
-install(FILES packaging/quorvel2.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+set(how_to_play ${CMAKE_INSTALL_PREFIX}/share/quorvel2/how-to-play/index.html)
+configure_file(packaging/quorvel2.desktop.in ${made}/quorvel2.desktop @ONLY)
+install(FILES ${made}/quorvel2.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 configure_file(packaging/quorvel2.6.in ${made}/quorvel2.6 @ONLY)
 install(FILES ${made}/quorvel2.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 

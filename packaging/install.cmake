@@ -34,6 +34,9 @@ install(TARGETS quorvel2 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DEST
 if(NOT APPLE) # where the list stands in the bundle
   install(FILES data/Lexicon.txt DESTINATION ${word_list_folder})
 endif()
+if(NOT WIN32 AND NOT APPLE)
+  install(DIRECTORY docs/how-to-play DESTINATION ${word_list_folder})
+endif()
 install(FILES LICENSE data/Lexicon.txt.license DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 if(WIN32)

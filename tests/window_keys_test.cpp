@@ -5,8 +5,10 @@
 #include "ui/roster.h"
 
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QTextBrowser>
 
 #include <set>
 
@@ -236,6 +238,18 @@ TEST_F(Window, IsPlayedByKeyboard)
     answers = "y";
     Play("Text6=#1; Text7=#2; Text8=#3; Command7");
     EXPECT_EQ(Focused(), "Option1(3)");
+}
+
+TEST_F(Window, OpensThePageThatTellsHowToPlay)
+{
+    QTextBrowser browser; // in place of the desktop's
+    QDesktopServices::setUrlHandler("file", &browser, "setSource");
+    Play("key F1");
+    EXPECT_EQ(browser.documentTitle(), "How to play Quorvel2");
+    browser.setSource(QUrl());
+    Play(start + "; Text6(2); key F1");
+    EXPECT_TRUE(browser.toPlainText().contains("Submit Word"));
+    QDesktopServices::unsetUrlHandler("file");
 }
 
 } // namespace

@@ -10,12 +10,14 @@
 #include "ui/focus.h"
 #include "ui/fonts.h"
 #include "ui/guess_box.h"
+#include "ui/how_to_play.h"
 #include "ui/places.h"
 #include "ui/roster.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QIcon>
+#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -142,7 +144,9 @@ bool MainWindow::event(QEvent* event)
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (!PressOnLevelPanel(controls_, *event) && !typing_.Press(*event))
+    if (event->key() == Qt::Key_F1)
+        OpenHowToPlay();
+    else if (!PressOnLevelPanel(controls_, *event) && !typing_.Press(*event))
         QWidget::keyPressEvent(event);
 }
 

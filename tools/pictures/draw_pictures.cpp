@@ -1,5 +1,6 @@
 // Draws the pictures of the documents from the real window: the level panel and a game in progress,
-// on a light and on a dark desktop. The same word list gives the same pictures.
+// on a light and on a dark desktop, and the steps of a go. The same word list gives the same
+// pictures.
 #include "headless/board_text.h"
 #include "headless/script.h"
 #include "ui/board_style.h"
@@ -58,6 +59,7 @@ void DrawGo(const char* wordList, const QString& files)
     HeadlessGame game(wordList, HeadlessPlatform(36000));
     MainWindow window(game.game);
     window.show();
+    Draw(window, files.arg(QStringLiteral("level-panel")));
     game.Play("Option1:4 Command1");
     SetBoard(game.board, lettersOfAGo);
     int picture = 0;
@@ -82,16 +84,16 @@ void DrawDesktop(const char* wordList, const QString& files, const QPalette& des
 
 } // namespace
 
-// Takes the word list and the folder for the pictures.
+// Takes the word list and the folder of the documents.
 int main(int argc, char* argv[])
 try {
     QApplication::setStyle(new BoardStyle);
     const QApplication application(argc, argv);
-    Demand(argc == 3, "usage: draw_pictures WORD_LIST FOLDER");
-    const QString folder = QString::fromLocal8Bit(argv[2]);
-    DrawDesktop(argv[1], folder + QStringLiteral("/%1.png"), QApplication::palette());
-    DrawGo(argv[1], folder + QStringLiteral("/%1.png"));
-    DrawDesktop(argv[1], folder + QStringLiteral("/%1-dark.png"), DarkDesktop());
+    Demand(argc == 3, "usage: draw_pictures WORD_LIST DOCS");
+    const QString docs = QString::fromLocal8Bit(argv[2]);
+    DrawGo(argv[1], docs + QStringLiteral("/how-to-play/%1.png"));
+    DrawDesktop(argv[1], docs + QStringLiteral("/pictures/%1.png"), QApplication::palette());
+    DrawDesktop(argv[1], docs + QStringLiteral("/pictures/%1-dark.png"), DarkDesktop());
     return EXIT_SUCCESS;
 } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
