@@ -1,67 +1,98 @@
 // Checks a word list: whether it keeps the rules, and how many words a game can find in it.
 //
-//   check_word_list FILE                all of it
-//   check_word_list --rules-only FILE   the rules alone
+//   check_word_list FILE          tells it
+//   check_word_list --fit FILE    prints the list without the words that have to leave it, and
+//   tells
+//                                 the rest on the standard error; a number in front of a word says
+//                                 how little it is known, as in "50 planet"
 //
 // Status 0: the game can play with the list. 1: it cannot. 2: the call makes no sense.
-
 #include "game/board.h"
-#include "tools/word_list/largest_game.h"
+#include "tools/word_list/fit_list.h"
 #include "tools/word_list/list_rules.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
-#include <string>
-#include <vector>
 
 namespace {
 
-void Print(const std::string& line)
+void Print(std::FILE* out, const std::string& line)
 {
-    std::puts(line.c_str());
+    std::fputs((line + '\n').c_str(), out);
 }
 
-bool KeepsRules(const std::vector<std::string>& records)
+bool KeepsRules(const Words& words, std::FILE* out)
 {
-    const std::vector<std::string> faults = FindFaults(records);
+    const std::vector<std::string> faults = FindFaults(words);
     for (const std::string& fault : faults)
-        Print(fault);
+        Print(out, fault);
     if (!faults.empty())
         return false;
-    Print("It keeps the rules: " + std::to_string(records.size()) + " words of six letters.");
-    if (const std::size_t repeats = CountRepeats(records); repeats > 0)
-        Print(std::to_string(repeats) + " of them stand there more than once. The game plays on.");
+    Print(out, "It keeps the rules: " + std::to_string(words.size()) + " words of six letters.");
     return true;
 }
 
-bool FitsTheGame(const Words& words)
+bool FitsTheGame(const LargeGame& largest, std::FILE* out)
 {
-    const std::optional<LargeGame> largest = FindLargestGame(words);
-    const std::size_t most = largest->candidates.size();
-    Print("Its largest game finds " + std::to_string(most) + " words, of "
-        + std::to_string(mostCandidates) + " that a game has room for: " + largest->hiddenWords[0]
-        + ", " + largest->hiddenWords[1] + ", " + largest->hiddenWords[2] + ".");
-    if (most <= mostCandidates)
+    const auto& [first, second, third] = largest.hiddenWords;
+    Print(out,
+        "Its largest game finds " + std::to_string(largest.candidates.size()) + " words, of "
+            + std::to_string(mostCandidates) + " that a game has room for: " + first + ", " + second
+            + ", " + third + ".");
+    if (largest.candidates.size() <= mostCandidates)
         return true;
-    Print("That is too many: a game with these hidden words would end before it began.");
+    Print(out, "That is too many: a game with these hidden words would end before it began.");
     return false;
+}
+
+KnownWord ParseRecord(const std::string& record)
+{
+    const std::size_t digits = record.find_first_not_of("0123456789");
+    if (digits == 0 || digits == std::string::npos || record[digits] != ' ')
+        return {.word = record};
+    return {.word = record.substr(digits + 1), .size = std::stoi(record)};
+}
+
+// The best known words go to the front.
+Words Fit(const Words& records)
+{
+    KnownWords list;
+    std::ranges::transform(records, std::back_inserter(list), ParseRecord);
+    std::ranges::stable_sort(list, {}, &KnownWord::size);
+    if (!FindFaults(WordsOf(list)).empty())
+        return WordsOf(list);
+    const KnownWords left = LeaveWords(list, mostCandidates);
+    std::string line = std::to_string(left.size()) + " words leave, so that the largest game fits:";
+    for (const KnownWord& word : left)
+        line += ' ' + word.word;
+    Print(stderr, line);
+    for (const KnownWord& word : list)
+        Print(stdout, word.word);
+    return WordsOf(list);
 }
 
 } // namespace
 
 int main(int count, char** arguments)
 {
-    const std::vector<std::string> words(arguments + 1, arguments + count);
-    const bool rulesOnly = words.size() == 2 && words[0] == "--rules-only";
-    if (!rulesOnly && words.size() != 1) {
-        std::fputs("usage: check_word_list [--rules-only] FILE\n", stderr);
+    const Words options(arguments + 1, arguments + count);
+    const bool fits = options.size() == 2 && options[0] == "--fit";
+    if (!fits && options.size() != 1) {
+        std::fputs("usage: check_word_list [--fit] FILE\n", stderr);
         return 2;
     }
     try {
-        const std::vector<std::string> records = ReadRecords(words.back());
-        return KeepsRules(records) && (rulesOnly || FitsTheGame(records)) ? 0 : 1;
+        const Words records = ReadRecords(options.back());
+        const Words words = fits ? Fit(records) : records;
+        std::FILE* const out = fits ? stderr : stdout;
+        if (!KeepsRules(words, out))
+            return 1;
+        // No game is larger once the words fit.
+        const auto largest = fits ? FindLargestGame(words, mostCandidates) : FindLargestGame(words);
+        return FitsTheGame(*largest, out) ? 0 : 1;
     } catch (const std::exception& error) {
-        Print(error.what());
+        Print(stderr, error.what());
         return 1;
     }
 }

@@ -1,32 +1,27 @@
 #include "tools/word_list/fit_list.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
 #include <tuple>
 #include <utility>
 
 namespace {
 
-// A list far too long has more games that are too large than can be counted; then so many are taken
-// at a time.
-constexpr std::size_t mostGamesAtOnce = 1000;
+// A list far too long has more games that are too large than can be kept. Then as many are taken at
+// a time as find so many candidates together, if they find the whole list.
+constexpr std::size_t mostFound = 9'000'000;
 
 std::vector<LargeGame> FindTooLarge(const KnownWords& list, std::size_t mostCandidates)
 {
-    Words words;
-    for (const KnownWord& word : list)
-        words.push_back(word.word);
     std::vector<LargeGame> games;
-    FindLargeGames(words, mostCandidates, [&](LargeGame game) {
+    FindLargeGames(WordsOf(list), mostCandidates, [&](LargeGame game) {
         games.push_back(std::move(game));
-        return games.size() < mostGamesAtOnce ? mostCandidates
-                                              : std::numeric_limits<std::size_t>::max();
+        return games.size() < mostFound / list.size() ? mostCandidates : list.size();
     });
     return games;
 }
 
-// The games that are too large, as words leave.
+// What becomes of the games that are too large, as words leave.
 class Shrinking {
 public:
     Shrinking(const KnownWords& list, std::size_t mostCandidates)
@@ -87,6 +82,13 @@ private:
 };
 
 } // namespace
+
+Words WordsOf(const KnownWords& list)
+{
+    Words words;
+    std::ranges::transform(list, std::back_inserter(words), &KnownWord::word);
+    return words;
+}
 
 KnownWords LeaveWords(KnownWords& list, std::size_t mostCandidates)
 {

@@ -12,6 +12,8 @@ struct KnownWord {
 
 using KnownWords = std::vector<KnownWord>;
 
+Words WordsOf(const KnownWords& list);
+
 // While a game has more than `mostCandidates`, words leave: those of the largest size first, of
 // these the one that most of the games that are too large find, and of several the first by code
 // points. Returns the words that have left, the first to leave first.

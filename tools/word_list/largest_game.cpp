@@ -290,12 +290,12 @@ void FindLargeGames(
     LargeGameSearch(words, bar, found).Run();
 }
 
-std::optional<LargeGame> FindLargestGame(const Words& words)
+std::optional<LargeGame> FindLargestGame(const Words& words, std::size_t enough)
 {
     std::optional<LargeGame> largest;
-    FindLargeGames(words, 0, [&largest](LargeGame game) {
+    FindLargeGames(words, 0, [&](LargeGame game) {
         largest = std::move(game);
-        return largest->candidates.size();
+        return largest->candidates.size() < enough ? largest->candidates.size() : words.size();
     });
     return largest;
 }

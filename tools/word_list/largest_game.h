@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,11 +19,13 @@ struct LargeGame {
     std::vector<std::size_t> candidates;    // their places in the list
 };
 
-// Calls `found` for the games with more candidates than the bar, and for one only of those that find
-// the same. What `found` returns is the bar from then on. None is passed over, so the search is a
-// proof; in which order they are found depends on the words alone.
+// Calls `found` for the games with more candidates than the bar, and for one only of those that
+// find the same. What `found` returns is the bar from then on. None is passed over, so the search
+// is a proof; in which order they are found depends on the words alone.
 void FindLargeGames(
     const Words& words, std::size_t bar, const std::function<std::size_t(LargeGame)>& found);
 
-// Empty when no three words have three first letters.
-std::optional<LargeGame> FindLargestGame(const Words& words);
+// The search ends early at a game that has `enough` candidates. Empty when no three words have
+// three first letters.
+std::optional<LargeGame> FindLargestGame(
+    const Words& words, std::size_t enough = std::numeric_limits<std::size_t>::max());

@@ -80,9 +80,3 @@ std::vector<std::string> FindFaults(const std::vector<std::string>& records)
         faults.emplace_back("Its records, without the last, have fewer than three first letters.");
     return faults;
 }
-
-std::size_t CountRepeats(std::vector<std::string> records)
-{
-    std::sort(records.begin(), records.end());
-    return static_cast<std::size_t>(records.end() - std::unique(records.begin(), records.end()));
-}

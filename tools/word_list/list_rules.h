@@ -10,6 +10,3 @@ std::vector<std::string> ReadRecords(const std::filesystem::path& list);
 
 // What is wrong with the records, a sentence each; none when the list keeps the rules.
 std::vector<std::string> FindFaults(const std::vector<std::string>& records);
-
-// How many records say again what an earlier one has said. The game can play with these.
-std::size_t CountRepeats(std::vector<std::string> records);
