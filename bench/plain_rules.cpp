@@ -1,10 +1,7 @@
 #include "bench/plain_rules.h"
 
 #include "game/board.h"
-#include "game/game.h"
-#include "game/platform.h"
 #include "game/rows.h"
-#include "game/start_of_game.h"
 
 #include <cmath>
 #include <fstream>
@@ -56,29 +53,22 @@ std::string SearchForWord(const Board& board)
 
 } // namespace
 
-std::int16_t CountWords(const std::filesystem::path& list, std::string& currentWord)
+std::pair<int, std::string> CountWords(const std::filesystem::path& list)
 {
     std::ifstream file(list);
-    std::int16_t count = 0;
+    int count = 0;
+    std::string last;
     for (std::string word; std::getline(file, word);) {
-        currentWord = word;
+        last = word;
         ++count;
     }
-    return count;
+    return {count, last};
 }
 
-void PickRandomWord(
-    const std::filesystem::path& list, std::int16_t wordCount, float draw, std::string& currentWord)
+std::vector<std::string> CollectCandidates(
+    const std::filesystem::path& list, int wordCount, const std::string& pool)
 {
-    const int position = static_cast<int>(static_cast<double>(draw) * wordCount);
-    std::ifstream file(list);
-    for (int read = 0; read < position; ++read)
-        std::getline(file, currentWord);
-}
-
-void CollectCandidates(const std::filesystem::path& list, std::int16_t wordCount,
-    const std::string& pool, std::vector<std::string>& candidates)
-{
+    std::vector<std::string> candidates;
     std::ifstream file(list);
     for (int read = 0; read < wordCount; ++read) {
         std::string letters = pool;
@@ -98,41 +88,7 @@ void CollectCandidates(const std::filesystem::path& list, std::int16_t wordCount
         if (matches == 6)
             candidates.push_back(word);
     }
-}
-
-bool FindWord(const std::filesystem::path& list, const std::string& word)
-{
-    std::ifstream file(list);
-    for (std::string record; std::getline(file, record);) {
-        if (record == word)
-            return true;
-    }
-    return false;
-}
-
-void StartGame(Game& game, std::vector<std::string>& candidates)
-{
-    Board& board = game.board;
-    game.platform.SeedRandom(game.platform.ClockSeconds());
-    board.WordCount = CountWords(game.lexicon, board.CurrentWord);
-    bool firstLettersDiffer = false;
-    while (!firstLettersDiffer) {
-        for (int slot = 1; slot <= 3; ++slot) {
-            PickRandomWord(
-                game.lexicon, board.WordCount, game.platform.DrawRandom(), board.CurrentWord);
-            board.HiddenWords(slot) = board.CurrentWord;
-        }
-        const char a = board.HiddenWords(1)[0];
-        const char b = board.HiddenWords(2)[0];
-        const char c = board.HiddenWords(3)[0];
-        firstLettersDiffer = a != b && a != c && b != c;
-    }
-    DealLetters(game);
-    const std::string pool = board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3);
-    candidates.clear();
-    do
-        CollectCandidates(game.lexicon, board.WordCount, pool, candidates);
-    while (candidates.size() < 300);
+    return candidates;
 }
 
 std::string SearchAllExchanges(Board& board)

@@ -1,17 +1,22 @@
-// Times the rules against their yardsticks and prints one table. Before that, the plain form has to
-// give the same answers.
-#include "bench/answers.h"
+// Times the rules against their yardsticks and prints one table, for the shipped word list and for
+// the same list in another alphabet. Before that, the plain form has to give the same answers.
+//
+// The other alphabet is Cyrillic, with one letter for each Latin one: all games are the same, and
+// the plain form stays with one byte a letter.
 #include "bench/plain_rules.h"
 #include "bench/ratio_table.h"
-#include "bench/scenes.h"
 #include "game/computer_go.h"
+#include "game/scoring.h"
 #include "game/start_of_game.h"
+#include "headless/headless_game.h"
 #include "lexicon/lexicon_file.h"
 #include "lexicon/passes.h"
 
+#include <benchmark/benchmark.h>
+
 #include <algorithm>
-#include <array>
 #include <cstdio>
+#include <fstream>
 #include <iterator>
 #include <memory>
 
@@ -19,6 +24,47 @@ namespace {
 
 using benchmark::DoNotOptimize;
 using std::to_string;
+
+std::string Latin(const std::string& text)
+{
+    return text;
+}
+
+std::string Cyrillic(const std::string& text)
+{
+    std::string letters;
+    for (const char letter : text) {
+        if (letter < 'a' || letter > 'z')
+            letters += letter;
+        else if (letter < 'q')
+            letters += {'\xD0', static_cast<char>('\xB0' + (letter - 'a'))};
+        else
+            letters += {'\xD1', static_cast<char>('\x80' + (letter - 'q'))};
+    }
+    return letters;
+}
+
+struct Alphabet {
+    const char* name; // as it stands in the table
+    std::string (*spell)(const std::string& latin);
+};
+
+// A list in an alphabet, and in the Latin one for the plain form.
+struct List {
+    List(const std::string& bytes, const Alphabet& alphabet)
+        : latin(bytes)
+        , spelled(alphabet.spell(bytes))
+    {
+    }
+    WordListFile latin;
+    WordListFile spelled;
+};
+
+std::string ShippedWords()
+{
+    std::ifstream file(QUORVEL_WORD_LIST, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 // No pass can be faster than this: reads the bytes of a list and counts its line ends.
 std::ptrdiff_t CountLineEnds(const std::filesystem::path& list)
@@ -33,139 +79,147 @@ std::ptrdiff_t CountLineEnds(const std::filesystem::path& list)
     return lines;
 }
 
-void TimePasses(std::vector<Timing>& timings)
+void TimePasses(std::vector<Timing>& timings, const Alphabet& alphabet)
 {
-    static LexiconFile lexicon(shippedList);
-    static const std::int16_t wordCount = CountWords(lexicon).records;
-    static std::string word;
-    const std::string records = to_string(wordCount) + " records";
-    const auto floor = [] { DoNotOptimize(CountLineEnds(shippedList)); };
-
-    timings.push_back({.what = "Count pass",
-        .work = records,
-        .game = [] { DoNotOptimize(CountWords(lexicon)); },
-        .plain = [] { plain::CountWords(shippedList, word); },
-        .floor = floor});
-
-    constexpr float middle = 0.5F;
-    timings.push_back({.what = "Pick from the middle",
-        .work = to_string(wordCount / 2) + " records",
-        .game = [] { DoNotOptimize(PickRandomWord(lexicon, wordCount, middle)); },
-        .plain = [] { plain::PickRandomWord(shippedList, wordCount, middle, word); }});
-
-    static const std::string pool = "planetgardensimple";
-    static std::vector<std::string> candidates(2000);
-    const std::int16_t count = CollectCandidates(lexicon, wordCount, pool, candidates);
-    timings.push_back({.what = "Candidate pass",
-        .work = records + ", " + to_string(count) + " words found",
-        .game = [] { CollectCandidates(lexicon, wordCount, pool, candidates); },
-        .plain =
-            [] {
-                static std::vector<std::string> found;
-                found.clear();
-                plain::CollectCandidates(shippedList, wordCount, pool, found);
-            },
-        .floor = floor});
-}
-
-Timing TimeStart(const std::string& what, const std::shared_ptr<Scene>& scene)
-{
-    Command1_Click(scene->game);
-    return {.what = what,
-        .work = to_string(scene->board.WordCount) + " records, "
-            + to_string(scene->board.CandidateCount) + " candidates",
-        .game = [scene] { Command1_Click(scene->game); },
-        .plain =
-            [scene] {
-                static std::vector<std::string> candidates;
-                plain::StartGame(scene->game, candidates);
-            }};
-}
-
-void TimeStarts(std::vector<Timing>& timings)
-{
-    timings.push_back(TimeStart("Start of a game",
-        std::make_shared<Scene>(shippedList, std::make_unique<SameGameAgain>(7))));
-
-    static const MadeList list(WorstStartWords());
-    Timing worst = TimeStart("Worst start of a game",
-        std::make_shared<Scene>(list.Path(), std::make_unique<WorstStartChance>()));
-    worst.floor = [] {
-        constexpr int passes = 1 + 3 + 100; // the count, the picks from its end, the candidates
-        for (int pass = 0; pass < passes; ++pass)
-            DoNotOptimize(CountLineEnds(list.Path()));
+    const auto list = std::make_shared<List>(ShippedWords(), alphabet);
+    const auto lexicon = std::make_shared<LexiconFile>(list->spelled.Path());
+    const std::int16_t count = CountWords(*lexicon).records;
+    const std::string records = to_string(count) + " records";
+    const auto floor = [list] { DoNotOptimize(CountLineEnds(list->spelled.Path())); };
+    const auto add = [&](const std::string& what, const std::string& work, const auto& ofGame,
+                         const auto& ofPlain) {
+        timings.push_back({what + alphabet.name, work, ofGame, ofPlain, floor});
     };
-    timings.push_back(worst);
+    add(
+        "Count pass", records, [=] { DoNotOptimize(CountWords(*lexicon)); },
+        [=] { DoNotOptimize(plain::CountWords(list->latin.Path())); });
+
+    const std::string latinPool = "planetgardensimple";
+    const std::string pool = alphabet.spell(latinPool);
+    const auto slots = std::make_shared<std::vector<std::string>>(2000);
+    add(
+        "Candidate pass",
+        records + ", " + to_string(CollectCandidates(*lexicon, count, pool, *slots)) + " found",
+        [=] { CollectCandidates(*lexicon, count, pool, *slots); },
+        [=] { DoNotOptimize(plain::CollectCandidates(list->latin.Path(), count, latinPool)); });
 }
 
-Timing TimeLookup(int records)
+void SetRows(Board& board, const Alphabet& alphabet)
 {
-    const auto list = std::make_shared<MadeList>(MadeWords(records));
-    return {.what = "Word not in a list of " + to_string(records),
-        .work = to_string(records) + " records",
+    constexpr const char* rows[] = {"aeinst", "eorlda"};
+    for (int i = 1; i <= 6; ++i) {
+        board.MyLetters(i).Text = alphabet.spell({rows[0][i - 1]});
+        board.SwapLetters(i).Text = alphabet.spell({rows[1][i - 1]});
+    }
+    board.FruitlessSwaps = 0;
+}
+
+// The computer is on the go at Level 1 with 2000 candidates and 250 used words, among them every
+// word that one of its exchanges makes; "Show Responses" is off.
+std::shared_ptr<HeadlessGame> WorstGo(const Alphabet& alphabet)
+{
+    auto game = std::make_shared<HeadlessGame>(QUORVEL_WORD_LIST, HeadlessPlatform(1));
+    Board& board = game->board;
+    board.Level = 1;
+    LexiconFile lexicon(QUORVEL_WORD_LIST);
+    lexicon.Open();
+    while (board.CandidateCount < mostCandidates)
+        board.Candidates(++board.CandidateCount) = lexicon.ReadRecord();
+    SetRows(board, {"", Latin});
+    for (std::string word; !(word = plain::SearchAllExchanges(board)).empty();)
+        AddUsedWord(board, word);
+    for (int k = mostCandidates; board.UsedCount < ledgerSlots; --k)
+        AddUsedWord(board, board.Candidates(k));
+    const auto spell = [&alphabet](std::string& word) { word = alphabet.spell(word); };
+    std::ranges::for_each(board.Candidates, spell);
+    std::ranges::for_each(board.UsedWords, spell);
+    SetRows(board, alphabet);
+    return game;
+}
+
+void TimeGo(std::vector<Timing>& timings, const Alphabet& alphabet)
+{
+    const auto game = WorstGo(alphabet);
+    const auto plainGame = WorstGo({"", Latin});
+    timings.push_back({.what = std::string("Worst go of the computer") + alphabet.name,
+        .work = to_string(36 * game->board.CandidateCount) + " candidates, "
+            + to_string(game->board.UsedCount) + " used words",
         .game =
-            [list] {
-                LexiconFile lexicon(list->Path());
-                lexicon.Open();
-                DoNotOptimize(FindWord(lexicon, "planet"));
+            [=] {
+                Command8_Click(game->game);
+                SetRows(game->board, alphabet);
             },
-        .plain = [list] { DoNotOptimize(plain::FindWord(list->Path(), "planet")); },
-        .floor = [list] { DoNotOptimize(CountLineEnds(list->Path())); }};
+        .plain = [=] { DoNotOptimize(plain::SearchAllExchanges(plainGame->board)); }});
 }
 
-void TimeLookups(std::vector<Timing>& timings)
+void TimeStart(std::vector<Timing>& timings, const Alphabet& alphabet)
 {
-    constexpr std::array listLengths = {1000, 2000, 4000, 8000, 16000, 32767};
-    std::ranges::transform(listLengths, std::back_inserter(timings), TimeLookup);
+    const auto list = std::make_shared<List>(ShippedWords(), alphabet);
+    const auto game = std::make_shared<HeadlessGame>(list->spelled.Path(), HeadlessPlatform(7));
+    const auto start = [=, list = list] {
+        game->platform.clock = 7; // the same draws again
+        game->board.Level = 1;
+        game->board.Check1 = 0;
+        game->view.calls.clear();
+        Command1_Click(game->game);
+    };
+    start();
+    timings.push_back({.what = std::string("Start of a game") + alphabet.name,
+        .work = to_string(game->board.CandidateCount) + " candidates",
+        .game = start});
 }
 
-void TimeGoAndDeal(std::vector<Timing>& timings)
+// Plays the game of a seed, until the computer's claim, with the same game in Latin letters and the
+// passes and goes of the plain form beside it.
+bool Agrees(const List& list, const Alphabet& alphabet, std::uint32_t seed)
 {
-    const std::shared_ptr<Scene> go = WorstGo();
-    timings.push_back({.what = "Worst go of the computer",
-        .work = to_string(36 * go->board.CandidateCount) + " candidates looked at, "
-            + to_string(go->board.UsedCount) + " used words",
-        .game =
-            [go] {
-                Command8_Click(go->game);
-                TakeBackGo(*go);
-            },
-        .plain = [go] { DoNotOptimize(plain::SearchAllExchanges(go->board)); }});
-
-    const auto deal = std::make_shared<Scene>(shippedList, std::make_unique<SameGameAgain>(1));
-    Command1_Click(deal->game);
-    timings.push_back(
-        {.what = "Deal", .work = "18 draws", .game = [deal] { DealLetters(deal->game); }});
+    HeadlessGame spelled(list.spelled.Path(), HeadlessPlatform(seed));
+    HeadlessGame latin(list.latin.Path(), HeadlessPlatform(seed));
+    Board& board = latin.board;
+    for (HeadlessGame* game : {&spelled, &latin}) {
+        game->board.Level = static_cast<std::int16_t>(1 + seed % 6);
+        Command1_Click(game->game);
+        game->board.Check1 = 0;
+    }
+    const auto candidates
+        = plain::CollectCandidates(list.latin.Path(), plain::CountWords(list.latin.Path()).first,
+            board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3));
+    for (int k = 1; k <= board.CandidateCount; ++k) {
+        const std::size_t repeated = static_cast<std::size_t>(k - 1) % candidates.size();
+        if (board.Candidates(k) != candidates[repeated]
+            || spelled.board.Candidates(k) != alphabet.spell(candidates[repeated]))
+            return false;
+    }
+    for (int go = 0; go < 30 && !board.Frame1.Visible; ++go) {
+        const std::string word = plain::SearchAllExchanges(board);
+        const std::string call = word.empty() ? "" : "Word Found: My Word:" + word;
+        for (HeadlessGame* game : {&spelled, &latin}) {
+            game->view.calls = {""};
+            Command8_Click(game->game);
+            const std::string& shown = game->view.calls[game->view.calls.size() > 1 ? 1 : 0];
+            if (alphabet.spell(shown) != alphabet.spell(call))
+                return false;
+        }
+    }
+    return spelled.board.CandidateCount == board.CandidateCount;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (const std::string wrong = FirstWrongAnswer(); !wrong.empty()) {
-        std::fprintf(stderr, "the game and its plain form disagree: %s\n", wrong.c_str());
-        return 1;
-    }
-
-    // Repeated in a random order, so that what else the machine does falls on all alike.
-    std::vector<std::string> arguments{argv[0], "--benchmark_repetitions=9",
-        "--benchmark_min_time=0.05", "--benchmark_enable_random_interleaving=true"};
-    arguments.insert(arguments.end(), argv + 1, argv + argc);
-    std::vector<char*> pointers;
-    std::ranges::transform(arguments, std::back_inserter(pointers),
-        [](std::string& argument) { return argument.data(); });
-    int count = static_cast<int>(pointers.size());
-    benchmark::Initialize(&count, pointers.data());
-    if (benchmark::ReportUnrecognizedArguments(count, pointers.data()))
-        return 1;
-
     std::vector<Timing> timings;
-    TimePasses(timings);
-    TimeStarts(timings);
-    TimeLookups(timings);
-    TimeGoAndDeal(timings);
-    RatioTable table(timings);
-    benchmark::RunSpecifiedBenchmarks(&table);
-    benchmark::Shutdown();
-    return 0;
+    for (const Alphabet& alphabet : {Alphabet{"", Latin}, Alphabet{", Cyrillic", Cyrillic}}) {
+        const List list(ShippedWords(), alphabet);
+        for (std::uint32_t seed = 1; seed <= 30; ++seed) {
+            if (Agrees(list, alphabet, seed))
+                continue;
+            std::fprintf(stderr, "the plain form disagrees: seed %u%s\n", seed, alphabet.name);
+            return 1;
+        }
+        TimePasses(timings, alphabet);
+        TimeStart(timings, alphabet);
+        TimeGo(timings, alphabet);
+    }
+    return PrintRatios(timings, argc, argv);
 }

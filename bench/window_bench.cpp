@@ -1,86 +1,31 @@
-// The window, measured from outside: how soon it is painted, what it takes of memory, and whether
-// it rests. Needs a display and Linux, and compares with Tanglet where that is installed.
+// The window beside a plain one, measured from outside: how soon it is painted, how long a redraw
+// takes, what it takes of memory, and whether it rests. Needs a display and Linux.
 //
-//   window_bench FOLDER_OF_THE_BENCH PROGRAM WORD_LIST
+//   window_bench WORD_LIST               starts itself as each of the two and prints the tables
+//   window_bench WORD_LIST WINDOW MODE   is one of them: "game" or "plain", and what it does
+#include "bench/plain_window.h"
+#include "game/board.h"
+#include "game/game.h"
+#include "ui/main_window.h"
+#include "ui/qt_view.h"
+#include "ui/system_platform.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QFile>
+#include <QProcess>
+#include <QThread>
+#include <QTimer>
+
 #include <algorithm>
-#include <chrono>
-#include <csignal>
 #include <cstdio>
-#include <cstdlib>
-#include <fcntl.h>
-#include <filesystem>
-#include <fstream>
-#include <list>
-#include <spawn.h>
-#include <stdexcept>
-#include <string>
-#include <sys/wait.h>
-#include <thread>
-#include <unistd.h>
-#include <utility>
+#include <functional>
+#include <memory>
 #include <vector>
 
-extern char** environ; // NOLINT: posix_spawn asks for it
-
 namespace {
-
-using Words = std::vector<std::string>;
-using Clock = std::chrono::steady_clock;
-
-// A program that is running; it ends with this. What it writes to the terminal can be read.
-class Process {
-public:
-    explicit Process(Words words)
-    {
-        int ends[2];
-        if (pipe2(ends, O_CLOEXEC) != 0)
-            throw std::runtime_error("no pipe");
-        posix_spawn_file_actions_t files;
-        posix_spawn_file_actions_init(&files);
-        posix_spawn_file_actions_adddup2(&files, ends[1], STDOUT_FILENO);
-        posix_spawn_file_actions_adddup2(&files, ends[1], STDERR_FILENO);
-        std::vector<char*> arguments;
-        for (std::string& word : words)
-            arguments.push_back(word.data());
-        arguments.push_back(nullptr);
-        const int failed
-            = posix_spawn(&id_, arguments[0], &files, nullptr, arguments.data(), environ);
-        posix_spawn_file_actions_destroy(&files);
-        close(ends[1]);
-        output_ = ends[0];
-        if (failed != 0)
-            throw std::runtime_error("cannot start " + words[0]);
-    }
-    ~Process()
-    {
-        kill(id_, SIGTERM);
-        waitpid(id_, nullptr, 0);
-        close(output_);
-    }
-    Process(const Process&) = delete;
-    Process& operator=(const Process&) = delete;
-
-    // Waits for output; "" when the program has ended without.
-    std::string Read() const
-    {
-        char text[500];
-        const ssize_t got = read(output_, text, sizeof text);
-        return {text, text + std::max<ssize_t>(got, 0)};
-    }
-
-    // What has been written so far, without waiting.
-    std::string ReadWhatIsThere() const
-    {
-        fcntl(output_, F_SETFL, O_NONBLOCK);
-        return Read();
-    }
-
-    std::filesystem::path Folder() const { return "/proc/" + std::to_string(id_); }
-
-private:
-    pid_t id_ = 0;
-    int output_ = 0;
-};
 
 double Median(std::vector<double> numbers)
 {
@@ -88,138 +33,172 @@ double Median(std::vector<double> numbers)
     return numbers[numbers.size() / 2];
 }
 
-// The number behind a name in one of the files of /proc.
-double Field(const std::filesystem::path& file, const std::string& name)
+double Milliseconds(const QElapsedTimer& since)
 {
-    std::ifstream in(file);
-    for (std::string line; std::getline(in, line);) {
-        if (line.starts_with(name + ":"))
-            return std::stod(line.substr(name.size() + 1));
-    }
-    throw std::runtime_error("a program has ended early: no " + file.string());
+    return static_cast<double>(since.nsecsElapsed()) / 1e6;
 }
 
-double MillisecondsToFirstFrame(const Words& window)
-{
-    const auto start = Clock::now();
-    const Process process(window);
-    process.Read();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-// How often the program has waited for something and gone on, in all its threads.
-double WakeUps(const Process& process)
-{
-    double all = 0;
-    for (const auto& thread : std::filesystem::directory_iterator(process.Folder() / "task"))
-        all += Field(thread.path() / "status", "voluntary_ctxt_switches");
-    return all;
-}
-
-// The windows come up by turns, so that what else the machine does falls on both alike.
-void PrintTimes(const Words& game, const Words& plain)
-{
-    constexpr int rounds = 31;
-    std::puts("| What | The game | Plain window | Ratio |\n|:--|--:|--:|--:|");
-    const auto with = [](Words words, const char* mode) {
-        words.emplace_back(mode);
-        return words;
-    };
-    const auto print = [&](const char* what, const auto& measure) {
-        std::vector<double> ofGame;
-        std::vector<double> ofPlain;
-        for (int round = 0; round < rounds; ++round) {
-            ofGame.push_back(measure(game));
-            ofPlain.push_back(measure(plain));
-        }
-        std::printf("| %s | %.1f ms | %.1f ms | %.2f |\n", what, Median(ofGame), Median(ofPlain),
-            Median(ofGame) / Median(ofPlain));
-    };
-    print("From the start of the process to the first painted frame",
-        [&](const Words& window) { return MillisecondsToFirstFrame(with(window, "first-frame")); });
-    print("One redraw of the whole window, a game on view", [&](const Words& window) {
-        return std::stod(Process(with(window, "redraw")).Read()) / 1000;
-    });
-}
-
-// A program that is left alone. The programs to compare stand beside each other, so that what they
-// share is shared alike.
-class AtRest {
+// Calls back when the window has been painted for the first time and the picture is on its way.
+class FirstFrame : public QObject {
 public:
-    AtRest(std::string name, Words words)
-        : name_(std::move(name))
-        , process_(std::move(words))
+    FirstFrame(QWidget& window, std::function<void()> then)
+        : then_(std::move(then))
     {
+        window.installEventFilter(this);
     }
-
-    void BeginToCount() { wakeUpsBefore_ = WakeUps(process_); }
-
-    void Print() const
+    bool eventFilter(QObject* window, QEvent* event) override
     {
-        const auto maps = process_.Folder() / "smaps_rollup";
-        const auto mebibytes = [&maps](const char* name) { return Field(maps, name) / 1024; };
-        std::printf("| %s | %.1f MiB | %.1f MiB | %.1f MiB | %.0f | %zu bytes |\n", name_.c_str(),
-            mebibytes("Rss"), mebibytes("Pss"),
-            mebibytes("Private_Clean") + mebibytes("Private_Dirty"),
-            WakeUps(process_) - wakeUpsBefore_, process_.ReadWhatIsThere().size());
+        if (event->type() == QEvent::Paint) {
+            window->removeEventFilter(this);
+            QTimer::singleShot(0, this, then_);
+        }
+        return false;
     }
 
 private:
-    std::string name_;
-    Process process_;
-    double wakeUpsBefore_ = 0;
+    std::function<void()> then_;
 };
 
-void PrintMemoryAndRest(const std::string& when, const Words& game, const Words& plain)
+void PrintRedraw(QWidget& window)
 {
-    std::list<AtRest> programs;
-    programs.emplace_back("The game, " + when, game);
-    programs.emplace_back("Plain window, " + when, plain);
-    if (const std::string tanglet = "/usr/games/tanglet"; std::filesystem::exists(tanglet))
-        programs.emplace_back("Tanglet, start screen", Words{tanglet});
-    std::this_thread::sleep_for(std::chrono::seconds(5));
-    for (AtRest& program : programs)
-        program.BeginToCount();
-    std::this_thread::sleep_for(std::chrono::seconds(10));
-    for (const AtRest& program : programs)
-        program.Print();
+    std::vector<double> times;
+    for (int redraw = 0; redraw < 101; ++redraw) {
+        QElapsedTimer timer;
+        timer.start();
+        window.repaint();
+        times.push_back(Milliseconds(timer));
+        QCoreApplication::processEvents();
+    }
+    std::printf("%f\n", Median(times));
 }
 
-void MeasureWindow(const std::string& folder, const std::string& program, const std::string& list)
+void StartGame(const QWidget& window)
 {
-    const Words game{folder + "/game_window", list};
-    const Words plain{folder + "/empty_window"};
-    PrintTimes(game, plain);
+    for (const char* control : {"Option1(1)", "Command1"})
+        window.findChild<QAbstractButton*>(control)->click();
+}
 
-    std::puts(
-        "\n| Program | Resident | Proportional (PSS) | Private | Wake-ups in ten idle seconds "
-        "| Written to the terminal |\n|:--|--:|--:|--:|--:|--:|");
-    PrintMemoryAndRest("start screen", {program}, {plain[0], "stay"});
-    PrintMemoryAndRest("a game on view", {game[0], game[1], "play"}, {plain[0], "play"});
-    std::printf("\n%s", Process({game[0], game[1], "clicks"}).Read().c_str());
+// What the two windows are asked alike: "first-frame" and "redraw" print and end, "start" and
+// "play" stay. `begin` puts a game on view.
+int Show(QWidget& window, const QString& mode, const std::function<void()>& begin)
+{
+    const FirstFrame painted(window, [&] {
+        if (mode == "play" || mode == "redraw")
+            begin();
+        if (mode == "redraw")
+            PrintRedraw(window);
+        if (mode == "first-frame")
+            std::puts("painted");
+        std::fflush(stdout);
+        if (mode != "start" && mode != "play")
+            std::_Exit(0);
+    });
+    window.show();
+    return QApplication::exec();
+}
+
+int ShowGame(const char* wordList, const QString& mode)
+{
+    Board board;
+    QtView view;
+    SystemPlatform platform;
+    Game game{board, view, platform, wordList};
+    MainWindow window(game);
+    view.PlayIn(window);
+    return Show(window, mode, [&] { StartGame(window); });
+}
+
+// One of the two windows, in a process of its own that ends with this.
+class Running {
+public:
+    Running(const QString& wordList, const QString& window, const QString& mode)
+    {
+        process_.start(QCoreApplication::applicationFilePath(), {wordList, window, mode});
+    }
+    ~Running()
+    {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+    QByteArray Printed()
+    {
+        process_.waitForReadyRead(120'000);
+        return process_.readAll();
+    }
+
+    // The number after a name in one of its files of /proc.
+    double Field(const char* file, const QByteArray& name) const
+    {
+        QFile opened(QString("/proc/%1/%2").arg(process_.processId()).arg(file));
+        opened.open(QIODevice::ReadOnly);
+        const QByteArray text = '\n' + opened.readAll();
+        const auto at = text.indexOf('\n' + name + ':');
+        return at < 0 ? 0 : text.mid(at + name.size() + 2).simplified().split(' ')[0].toDouble();
+    }
+    // How often it has waited for something and gone on.
+    double WakeUps() const { return Field("status", "voluntary_ctxt_switches"); }
+
+private:
+    QProcess process_;
+};
+
+// The windows come up by turns, so that what else the machine does falls on both alike.
+void PrintTimes(const QString& wordList)
+{
+    std::puts("| What | The game | Plain window | Ratio |\n|:--|--:|--:|--:|");
+    for (const char* mode : {"first-frame", "redraw"}) {
+        std::vector<double> times[2];
+        for (int round = 0; round < 31; ++round) {
+            for (const bool plain : {false, true}) {
+                QElapsedTimer timer;
+                timer.start();
+                Running window(wordList, plain ? "plain" : "game", mode);
+                const double printed = window.Printed().toDouble();
+                times[plain].push_back(printed != 0 ? printed : Milliseconds(timer));
+            }
+        }
+        const double game = Median(times[0]);
+        const double plain = Median(times[1]);
+        std::printf("| %s | %.1f ms | %.1f ms | %.2f |\n", mode, game, plain, game / plain);
+    }
+}
+
+// The windows stand beside each other, so that what they share is shared alike.
+void PrintMemoryAndRest(const QString& wordList)
+{
+    std::puts("\n| Window | Resident | Proportional (PSS) | Wake-ups in ten idle seconds |\n"
+              "|:--|--:|--:|--:|");
+    for (const char* mode : {"start", "play"}) {
+        const Running windows[]{{wordList, "game", mode}, {wordList, "plain", mode}};
+        QThread::sleep(5);
+        const double before[]{windows[0].WakeUps(), windows[1].WakeUps()};
+        QThread::sleep(10);
+        for (const int k : {0, 1})
+            std::printf("| %s, %s | %.1f MiB | %.1f MiB | %.0f |\n", k == 0 ? "The game" : "Plain",
+                mode, windows[k].Field("smaps_rollup", "Rss") / 1024,
+                windows[k].Field("smaps_rollup", "Pss") / 1024, windows[k].WakeUps() - before[k]);
+    }
 }
 
 } // namespace
 
-int main(int argc, char** argv)
+int main(int argc, char* argv[])
 {
-    if (argc != 4) {
-        std::fputs("usage: window_bench FOLDER_OF_THE_BENCH PROGRAM WORD_LIST\n", stderr);
+    if (argc != 2 && argc != 4) {
+        std::fputs("usage: window_bench WORD_LIST\n", stderr);
         return 1;
     }
-    // The programs find a room of their own, and no settings.
-    char room[] = "/tmp/window-bench-XXXXXX";
-    if (mkdtemp(room) == nullptr)
-        return 1;
-    for (const char* name : {"XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-        setenv(name, room, 1);
-    int status = 0;
-    try {
-        MeasureWindow(argv[1], argv[2], argv[3]);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        status = 1;
+    if (argc == 2) {
+        const QCoreApplication driver(argc, argv);
+        PrintTimes(argv[1]);
+        PrintMemoryAndRest(argv[1]);
+        return 0;
     }
-    std::filesystem::remove_all(room);
-    return status;
+    QApplication::setStyle(QStringLiteral("fusion"));
+    const QApplication application(argc, argv);
+    if (QString(argv[2]) == "game")
+        return ShowGame(argv[1], argv[3]);
+    const std::unique_ptr<QWidget> window = MakePlainWindow();
+    return Show(*window, argv[3], [&] { ShowPlainGame(*window, true); });
 }

@@ -35,9 +35,11 @@ std::size_t SizeOfLetter(std::string_view bytes)
     };
     constexpr std::array<Letters, 5> ofSize{
         {{}, {0, 0x7F}, {0x80, 0x7FF}, {0x800, 0xFFFF}, {0x10000, 0x10FFFF}}};
+    const auto first = static_cast<unsigned char>(bytes[0]);
+    if (first >= 0xC2 && first <= 0xDF) // most letters beyond ASCII, in most alphabets
+        return bytes.size() >= 2 && ContinuesLetter(bytes[1]) ? 2 : 0;
     // A first byte has as many ones in front as its letter has bytes, or none if it has one.
-    const auto ones
-        = static_cast<std::size_t>(std::countl_one(static_cast<unsigned char>(bytes[0])));
+    const auto ones = static_cast<std::size_t>(std::countl_one(first));
     const std::size_t size = ones == 0 ? 1 : ones;
     if (ones == 1 || size >= ofSize.size() || size > bytes.size())
         return 0;

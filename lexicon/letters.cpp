@@ -30,7 +30,6 @@ std::string_view LetterOf(std::string_view text, int k)
     return text.substr(0, SizeOfFirst(text));
 }
 
-// A letter of more than one byte.
 char32_t TakeLongFirstLetter(std::string_view& text)
 {
     const std::size_t size = SizeOfFirst(text);

@@ -31,14 +31,20 @@ constexpr bool ContinuesLetter(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
+// For a letter of more than two bytes.
 char32_t TakeLongFirstLetter(std::string_view& text);
 
 // Takes the first letter off a text that is not empty; gives its code point.
 inline char32_t TakeFirstLetter(std::string_view& text)
 {
     const auto first = static_cast<unsigned char>(text.front());
-    if (first >= 0x80)
+    if (first < 0x80) {
+        text.remove_prefix(1);
+        return first;
+    }
+    if (first >= 0xE0 || text.size() < 2)
         return TakeLongFirstLetter(text);
-    text.remove_prefix(1);
-    return first;
+    const auto second = static_cast<unsigned char>(text[1]);
+    text.remove_prefix(2);
+    return (first & 0x1FU) << 6U | (second & 0x3FU);
 }

@@ -18,16 +18,17 @@ class LetterPool {
 public:
     explicit LetterPool(std::string_view letters)
     {
+        assert(CountLetters(letters) < longLetters_.size());
         strange_.fill(true);
         strange_[mark] = false;
         for (const char byte : letters)
             strange_[static_cast<unsigned char>(byte)] = false;
         while (!letters.empty()) {
             const char32_t letter = TakeFirstLetter(letters);
-            if (letter >= firstLong && longLetters_.find(letter) == std::u32string::npos)
-                longLetters_ += letter;
-            assert(longLetters_.size() < mostLong);
-            ++count_[PlaceOf(letter)];
+            const std::size_t place = PlaceOf(letter);
+            ++count_[place];
+            if (place >= firstLong)
+                longLetters_[place - firstLong] = letter;
         }
     }
 
@@ -41,7 +42,6 @@ public:
 
 private:
     static constexpr char32_t firstLong = 0x80; // code point of the first with more than one byte
-    static constexpr std::size_t mostLong = 20;
 
     // Written out for each byte, with no branch.
     template <std::size_t... K>
@@ -68,17 +68,21 @@ private:
         return true;
     }
 
-    // Where the letter is counted. Long ones that the pool has not share a place.
+    // Where the letter is counted: a long one in its own place, or in the next that is free or its
+    // own.
     std::size_t PlaceOf(char32_t letter) const
     {
         if (letter < firstLong)
             return letter;
-        return firstLong + std::min(longLetters_.find(letter), longLetters_.size());
+        std::size_t place = letter % longLetters_.size();
+        while (longLetters_[place] != 0 && longLetters_[place] != letter)
+            place = (place + 1) % longLetters_.size();
+        return firstLong + place;
     }
 
     std::array<bool, 256> strange_; // bytes that no letter of the pool has
-    std::u32string longLetters_;
-    std::array<std::uint8_t, firstLong + mostLong> count_{};
+    std::array<char32_t, 64> longLetters_{};
+    std::array<std::uint8_t, firstLong + 64> count_{};
 };
 
 } // namespace

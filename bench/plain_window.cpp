@@ -1,9 +1,7 @@
-// The floor for the window: as many controls of the toolkit's own kinds, in the same places and
-// with the same captions, in the desktop's font and colours, with no game behind them.
-#include "bench/window_probe.h"
+#include "bench/plain_window.h"
+
 #include "ui/roster.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -68,25 +66,22 @@ void MakeControls(QWidget& window)
     }
 }
 
-// The level panel is on view, or the frames of a game.
-void ShowGame(const QWidget& window, bool game)
+} // namespace
+
+std::unique_ptr<QWidget> MakePlainWindow()
+{
+    auto window = std::make_unique<QWidget>();
+    window->setFixedSize(664, 499); // the game's
+    MakeControls(*window);
+    ShowPlainGame(*window, false);
+    return window;
+}
+
+void ShowPlainGame(const QWidget& window, bool game)
 {
     const auto children = window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     for (QWidget* child : children) {
         const bool ofPanel = child->objectName() == "Frame1" || child->objectName() == "Command2";
         child->setVisible(ofPanel != game);
     }
-}
-
-} // namespace
-
-int main(int argc, char* argv[])
-{
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication application(argc, argv);
-    QWidget window;
-    window.setFixedSize(664, 499); // the game's
-    MakeControls(window);
-    ShowGame(window, false);
-    return Probe(window, argc > 1 ? argv[1] : "stay", [&window] { ShowGame(window, true); });
 }
