@@ -6,6 +6,7 @@
 #include "bench/plain_window.h"
 #include "game/board.h"
 #include "game/game.h"
+#include "ui/board_style.h"
 #include "ui/main_window.h"
 #include "ui/qt_view.h"
 #include "ui/system_platform.h"
@@ -16,6 +17,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QProcess>
+#include <QStyleFactory>
 #include <QThread>
 #include <QTimer>
 
@@ -195,9 +197,10 @@ int main(int argc, char* argv[])
         PrintMemoryAndRest(argv[1]);
         return 0;
     }
-    QApplication::setStyle(QStringLiteral("fusion"));
+    const bool ofGame = QString(argv[2]) == "game";
+    QApplication::setStyle(ofGame ? new BoardStyle : QStyleFactory::create("fusion"));
     const QApplication application(argc, argv);
-    if (QString(argv[2]) == "game")
+    if (ofGame)
         return ShowGame(argv[1], argv[3]);
     const std::unique_ptr<QWidget> window = MakePlainWindow();
     return Show(*window, argv[3], [&] { ShowPlainGame(*window, true); });
