@@ -69,7 +69,7 @@ void DrawThreeWords(Game& game, LexiconFile& lexicon)
 
 void DrawHiddenWords(Game& game, LexiconFile& lexicon, const std::u32string& drawable)
 {
-    Board& board = game.board;
+    const Board& board = game.board;
     bool fair = false;
     for (std::uint64_t tries = 1; TryCanSucceed(drawable, board.CurrentWord); ++tries) {
         DrawThreeWords(game, lexicon);

@@ -176,7 +176,7 @@ struct Part {
     std::function<void(Board&, const std::string&)> set;
 };
 
-Part Rows(const char* key, std::vector<LetterRow Board::*> rows)
+Part Rows(const char* key, const std::vector<LetterRow Board::*>& rows)
 {
     return {key,
         [rows](const Board& board) {
