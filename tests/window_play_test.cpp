@@ -1,6 +1,8 @@
 // The window in every state of a game, and at each of its ends.
 #include "window_fixture.h"
 
+#include "ui/program.h"
+
 #include "game/rows.h"
 #include "lexicon/letters.h"
 
@@ -193,6 +195,28 @@ TEST_F(Window, KeepsTheNewestWordInSight)
     ASSERT_EQ(words->count(), 60);
     EXPECT_TRUE(
         words->viewport()->rect().contains(words->visualItemRect(words->item(59)).center()));
+}
+
+// With the word list that stands beside it, its own clock and chance, and messages over its window.
+TEST(Program, IsPutTogether)
+{
+    Program program;
+    program.window.show();
+    const auto click
+        = [&](const char* name) { program.window.findChild<QAbstractButton*>(name)->click(); };
+    int messages = 0;
+    QTimer answerer;
+    QObject::connect(&answerer, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            ++messages, box->button(QMessageBox::Ok)->click();
+    });
+    answerer.start(0);
+    click("Option1(6)");
+    click("Command1");
+    EXPECT_TRUE(program.window.windowTitle().startsWith("Quorvel - Level: 6   No. Of words"));
+    EXPECT_GT(program.board.WordCount, 5000);
+    click("Command14");
+    EXPECT_GE(messages, 2) << "of the deal and of the computer's go";
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 #include "ui/focus.h"
 #include "ui/fonts.h"
 #include "ui/guess_box.h"
-#include "ui/how_to_play.h"
+#include "ui/installed.h"
 #include "ui/places.h"
 #include "ui/roster.h"
 
