@@ -224,10 +224,10 @@ TEST_F(Window, IsPlayedByKeyboard)
         QCoreApplication::sendEvent(window.focusWidget(), event);
     }
     EXPECT_EQ(board.HeldIndex, 2);
-    EXPECT_EQ(Spoken("Text1(2)"), "Your letter 2, empty, p is in your hand");
+    EXPECT_EQ(Spoken("Text1(2)"), "Your letter 2 of 6, empty, p is in your hand");
     Play("key Right; key Left; key Left; key Left; key Space");
     EXPECT_EQ(board.HeldIndex, 0);
-    EXPECT_EQ(Spoken("Text1(1)"), "Your letter 1: p");
+    EXPECT_EQ(Spoken("Text1(1)"), "Your letter 1 of 6: p");
     // Tab comes back to the box that was left, and lost focus goes to where play goes on.
     Play("key Tab");
     EXPECT_EQ(Focused(), "SwapLetters(1)");

@@ -108,14 +108,15 @@ TEST_F(Window, PlaysInAnyAlphabet)
         for (const uint letter : QString::fromStdString(word).toUcs4())
             TypeLetter(letter);
         EXPECT_EQ(Spell(board.Text1), word);
-        EXPECT_EQ(Spoken("Text1(2)"), ("Your letter 2: " + second).toStdString());
+        EXPECT_EQ(Spoken("Text1(2)"), ("Your letter 2 of 6: " + second).toStdString());
         Play("key Return");
         ASSERT_FALSE(messages.empty());
         EXPECT_EQ(messages.front(), "Quorvel2: Word Accepted");
         // A letter that is bought, and the words that are guessed.
         Play("you:100; Word1(2)");
         EXPECT_EQ(Named<QAbstractButton>("Word1(2)")->text(), second);
-        EXPECT_EQ(Spoken("Word1(2)"), "Hidden word 1, letter 2: " + second.toStdString());
+        EXPECT_EQ(Spoken("Word1(2)"),
+            "Hidden word 1, letter 2 of 6: " + second.toStdString() + ", shown, not for sale");
         messages.clear();
         Play("Text6=#1; Text7=#2; Text8=#3; Command7");
         ASSERT_FALSE(messages.empty());

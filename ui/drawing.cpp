@@ -76,13 +76,13 @@ struct ShowField {
             As<LetterTile>(control).SetLetter(text, faint);
             ShowEdge(control, board, text);
         }
-        NameBox(control, text, faint, IsEnabled(control, board));
+        NameBox(control, text, faint);
     }
     void operator()(NumberBox Board::* number) const
     {
         const QString text = Shown((board.*number).Text);
         As<ShownBox>(control).setText(text);
-        NameBox(control, text.trimmed(), QString(), true);
+        NameBox(control, text.trimmed(), QString());
     }
     void operator()(Frame Board::* /*frame*/) const { }
     void operator()(Label Board::* /*label*/) const { }

@@ -13,6 +13,7 @@
 #include "ui/installed.h"
 #include "ui/places.h"
 #include "ui/roster.h"
+#include "ui/used_words_list.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -37,6 +38,7 @@ void WriteTick(Board& board, bool ticked)
 
 MainWindow::MainWindow(Game& game)
     : game_(game)
+    , announcer_(*this, game.board)
     , controls_(BuildControls(*this))
     , size_(*this, game.board, [this] { Rescale(); })
     , typing_(controls_, game.board)
@@ -65,8 +67,10 @@ void MainWindow::ConnectClicks()
 void MainWindow::Click(const BuiltControl& control)
 {
     refreshed_ = false;
+    announcer_.BeginHandler();
     Deliver(game_, *control.Clicked, static_cast<std::int16_t>(control.Number));
     ShowBoard();
+    announcer_.EndHandler();
     // A handler that repaints before its end has begun a game or a go, or has made the swap of one:
     // the player goes on at the letters.
     if (refreshed_)
@@ -80,6 +84,11 @@ void MainWindow::ConnectTyping()
     Board& board = game_.board;
     connect(&Find<QAbstractButton>(controls_, "Check1"), &QAbstractButton::clicked, this,
         [&board](bool ticked) { WriteTick(board, ticked); });
+    auto& words = Find<UsedWordsList>(controls_, "List1");
+    connect(&words, &UsedWordsList::currentRowChanged, this, [this, &words](int row) {
+        if (words.hasFocus() && row >= 0)
+            announcer_.Say(words.item(row)->text());
+    });
     for (const BuiltControl& control : controls_) {
         if (control.Row->Is != Kind::GuessBox || control.Shows == nullptr)
             continue;
@@ -98,6 +107,7 @@ void MainWindow::ShowBoard()
         FocusOnPlay(controls_, game_.board);
     TakeOutOfPlay(controls_, game_.board);
     GiveFonts(controls_, size_.Present().PixelsPerTwip);
+    announcer_.Look();
 }
 
 void MainWindow::Refresh()

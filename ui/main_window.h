@@ -2,6 +2,7 @@
 // ticks into the board. It knows no rule. Its work stands in the files that it wires together.
 #pragma once
 
+#include "ui/announcer.h"
 #include "ui/controls.h"
 #include "ui/keys.h"
 #include "ui/typing.h"
@@ -22,6 +23,9 @@ public:
     // Shows the board, paints, and runs the pending input before it returns.
     void Refresh();
 
+    // A message over the window has been answered.
+    void AfterMessage() { announcer_.AfterMessage(); }
+
     // The part of the board that messages may cover, in pixels of the screen: no letters, scores or
     // hidden words, and not "YOUR GO".
     QRect RoomForMessages() const;
@@ -39,6 +43,7 @@ private:
     void Rescale();
 
     Game& game_;
+    Announcer announcer_;
     Controls controls_;
     WindowSize size_;
     HeldEnterFilter heldEnter_;

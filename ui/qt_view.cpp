@@ -12,8 +12,10 @@ QMessageBox::StandardButton Ask(MainWindow& window, const std::string& text,
 {
     // The box opens over the board as it is at this moment.
     window.ShowBoard();
-    return AskPlayer(window, window.RoomForMessages(), QString::fromUtf8(text),
+    const auto answer = AskPlayer(window, window.RoomForMessages(), QString::fromUtf8(text),
         QString::fromUtf8(title), buttons);
+    window.AfterMessage();
+    return answer;
 }
 
 } // namespace

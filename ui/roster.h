@@ -76,9 +76,11 @@ struct Control {
     bool Heavy = false;               // a button with a heavier edge
 
     // What a screen reader says: the name, where %1 stands for the number of the box, then for a
-    // box its letter or else the ending below; and what the control does.
+    // box its letter and an ending, or the one that stands for no letter; and what the control
+    // does, which the first box says for all.
     const char* Spoken = "";
     const char* SpokenWhenEmpty = ", empty";
+    const char* SpokenWhenFilled = "";
     const char* SpokenHelp = "";
 };
 

@@ -22,17 +22,19 @@ void GiveWords(const BuiltControl& control)
     const Control& row = *control.Row;
     const char* name = *row.Spoken == '\0' ? row.Caption : row.Spoken;
     control.Widget->setAccessibleName(WithNumber(name, control.Number));
-    control.Widget->setAccessibleDescription(QString::fromUtf8(row.SpokenHelp));
+    // Help is said once for all boxes. A blank keeps the others from saying their tool tip instead.
+    const char* help = control.Number <= 1 ? row.SpokenHelp : " ";
+    control.Widget->setAccessibleDescription(QString::fromUtf8(help));
     control.Widget->setToolTip(QString::fromUtf8(row.ToolTip));
 }
 
-void NameBox(const BuiltControl& control, const QString& text, const QString& faint, bool enabled)
+void NameBox(const BuiltControl& control, const QString& text, const QString& faint)
 {
     QString words = WithNumber(control.Row->Spoken, control.Number);
-    words += text.isEmpty() ? QString::fromUtf8(control.Row->SpokenWhenEmpty) : u": "_s + text;
+    words += text.isEmpty() ? QString::fromUtf8(control.Row->SpokenWhenEmpty)
+                            : u": "_s + text + QString::fromUtf8(control.Row->SpokenWhenFilled);
     if (!faint.isEmpty())
         words += u", "_s + faint + u" is in your hand"_s;
-    if (!enabled)
-        words += u", not available"_s;
-    control.Widget->setAccessibleName(words);
+    if (control.Widget->accessibleName() != words) // a name that is given is told, even the same
+        control.Widget->setAccessibleName(words);
 }

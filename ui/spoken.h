@@ -7,6 +7,6 @@ struct BuiltControl;
 // Gives the control its words as they are at the start: name, help and tool tip.
 void GiveWords(const BuiltControl& control);
 
-// Names a box with what it shows: "Your letter 3: p", "Swap letter 1, red: w, not available". Faint
-// is a letter that the box shows although it is in the player's hand, or "".
-void NameBox(const BuiltControl& control, const QString& text, const QString& faint, bool enabled);
+// Names a box with what it shows: "Your letter 3 of 6: p". Faint is a letter that the box shows
+// although it is in the player's hand, or "". That a box is disabled is for its state to say.
+void NameBox(const BuiltControl& control, const QString& text, const QString& faint);
