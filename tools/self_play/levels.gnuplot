@@ -1,7 +1,8 @@
-# gnuplot levels.gnuplot: draws levels.svg from levels.data, both in the folder of the call.
-set terminal svg size 760,310 font "sans-serif,13" background "#ffffff"
+# gnuplot levels.gnuplot: draws levels.svg from levels.data and shares.data, all in the
+# folder of the call.
+set terminal svg size 1000,310 font "sans-serif,13" background "#ffffff"
 set output "levels.svg"
-set multiplot layout 1,2
+set multiplot layout 1,3
 set xlabel "Level"
 set xrange [0.3:6.7]
 set xtics 1
@@ -19,3 +20,6 @@ plot "levels.data" using 1:2 with boxes linestyle 1
 set title "Goes until its claim: median and middle half"
 plot "levels.data" using 1:4:3:5 with yerrorbars linestyle 1 pointsize 0, \
     "" using 1:4:(0.1) with circles linestyle 1
+set title "The part of a game's different words"
+set ytics 0.2
+plot "shares.data" using 1:2 with boxes linestyle 1
