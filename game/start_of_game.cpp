@@ -34,7 +34,7 @@ void ClearLastGame(Board& board)
         word.clear();
     board.UsedCount = 0;
     board.CandidateCount = 0;
-    board.Text9.Text = "0";
+    board.Text9.Text = PlainForm(0);
 }
 
 // A try can succeed when the records that a position reaches have three first letters, or have two
@@ -210,8 +210,8 @@ void OfferAnotherGame(Game& game)
     CentreLevelPanel(board);
     board.Frame1.Visible = true;
     board.Command2.Visible = true;
-    board.MyScore.Text = "0";
-    board.YourScore.Text = "0";
+    board.MyScore.Text = PlainForm(0);
+    board.YourScore.Text = PlainForm(0);
 }
 
 void ShowLexiconMessage(Game& game)
