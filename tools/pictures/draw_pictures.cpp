@@ -23,7 +23,9 @@ constexpr const char* gameInProgress
 
 // The letters of a game laid so that one swap makes a word, and a go with them in six steps: the
 // letters, one in the hand, the swap, the word begun, the whole word, and the letters after it.
-constexpr const char* lettersOfAGo = "you=pamere me=finere swap=ulnted";
+constexpr const char* lettersOfAGo
+    = "hidden=marten/lineup/feeder shown=m..t../l..e../f..d.. guess=m..t../l..e../f..d.. "
+      "you=pamere me=finere swap=ulnted";
 constexpr const char* aGo[] = {"", "Text1:3", "SwapLetters:4", "Command9 Text2:5 Text2:4",
     "Text2:1 Text2:6 Text2:2 Text2:3", "Command3"};
 
