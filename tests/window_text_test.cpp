@@ -100,8 +100,9 @@ TEST_F(Window, IsAsItsTextSays)
     std::set<std::string> expected;
     std::ifstream text(QUORVEL_WINDOW_TEXT);
     for (std::string line; std::getline(text, line);) {
-        if (!line.starts_with('#'))
+        if (!line.starts_with('#')) {
             EXPECT_TRUE(expected.insert(line).second) << line;
+        }
     }
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         const QString name = widget->objectName();
