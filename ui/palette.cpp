@@ -63,7 +63,7 @@ void GiveColours(const BuiltControl& control)
         // The round mark, and the ring about the option that has the focus.
         palette.setColor(QPalette::Base, Qt::white);
         palette.setColor(QPalette::Text, Qt::black);
-        palette.setColor(QPalette::Highlight, ColourOf(*row.Text));
+        palette.setColor(QPalette::Highlight, palette.color(roles.ink));
     }
     widget.setPalette(palette);
     widget.setForegroundRole(roles.ink);
