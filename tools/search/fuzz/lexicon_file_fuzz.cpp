@@ -138,7 +138,7 @@ void ComparePasses(LexiconFile& lexicon, Records plain)
     Require(static_cast<std::size_t>(counted.records) == plain.size());
     Require(counted.last == Utf8(plain.back()));
     const auto picked = PickRandomWord(lexicon, counted.records, 0.5F);
-    Require(picked.has_value() == plain.size() >= 2);
+    Require(picked.has_value() == (plain.size() >= 2));
     Require(!picked || *picked == Utf8(plain[plain.size() / 2 - 1]));
     lexicon.Open();
     Require(FindWord(lexicon, Utf8(plain.front())));
