@@ -30,19 +30,19 @@ set_target_properties(quorvel2 PROPERTIES
   MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION}
   MACOSX_BUNDLE_ICON_FILE quorvel2.icns)
 
+if(WIN32) # where the program stands in one folder with all that is its own
+  include(packaging/windows/install.cmake)
+  return()
+endif()
+
 install(TARGETS quorvel2 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DESTINATION .)
 if(NOT APPLE) # where the list stands in the bundle
   install(FILES data/Lexicon.txt DESTINATION ${word_list_folder})
-endif()
-if(NOT WIN32 AND NOT APPLE)
   install(DIRECTORY docs/how-to-play DESTINATION ${word_list_folder})
 endif()
 install(FILES LICENSE data/Lexicon.txt.license DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
-if(WIN32)
-  enable_language(RC)
-  target_sources(quorvel2 PRIVATE ${PROJECT_SOURCE_DIR}/packaging/quorvel2.rc)
-elseif(APPLE)
+if(APPLE)
   set(icon ${PROJECT_SOURCE_DIR}/packaging/quorvel2.icns)
   set(word_list ${PROJECT_SOURCE_DIR}/data/Lexicon.txt)
   target_sources(quorvel2 PRIVATE ${icon} ${word_list})

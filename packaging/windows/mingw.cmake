@@ -1,11 +1,10 @@
-# A toolchain file: builds for Windows with Debian's g++-mingw-w64-x86-64-posix, into programs that
-# need no library beside them, and runs them with Debian's wine64.
+# A toolchain file: builds for Windows with Debian's g++-mingw-w64-x86-64-posix, and runs what it has
+# built with Debian's wine64.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
-set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 
 # Programs of this system help to build, its headers and libraries do not.
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${CMAKE_PREFIX_PATH})
