@@ -90,7 +90,7 @@ int main(int count, char** arguments)
             return 1;
         // No game is larger once the words fit.
         const auto largest = fits ? FindLargestGame(words, mostCandidates) : FindLargestGame(words);
-        return FitsTheGame(*largest, out) ? 0 : 1;
+        return largest && FitsTheGame(*largest, out) ? 0 : 1;
     } catch (const std::exception& error) {
         Print(stderr, error.what());
         return 1;
