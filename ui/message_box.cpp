@@ -67,6 +67,7 @@ private:
         auto* grid = qobject_cast<QGridLayout*>(layout());
         if (QLayoutItem* indent = grid->itemAtPosition(0, 0); indent && indent->spacerItem())
             indent->spacerItem()->changeSize(0, 0);
+        grid->setColumnStretch(1, 1); // that of the text, which begins at the left
         auto* text = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
         text->setContentsMargins(0, 0, 0, 0);
         const int widest = room_.width() - 2 * margin - grid->contentsMargins().left()
