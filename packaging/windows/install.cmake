@@ -1,4 +1,4 @@
-# The folder that a player on Windows gets: the program, its libraries, its word list and papers. The
+# The folder that a player on Windows gets: the program, its libraries, its word list and notices. The
 # word list is read from C:\, where the installer copies it.
 enable_language(RC)
 set(resources ${made}/quorvel2.rc)
