@@ -35,6 +35,16 @@ public:
     }
 
 protected:
+    // The toolkit fixes the size as it shows the box. Under Wayland a box can be maximised all the
+    // same, and one that keeps its size then ends the program.
+    bool event(QEvent* event) override
+    {
+        const bool handled = QMessageBox::event(event);
+        if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+            setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        return handled;
+    }
+
     // Escape and closing the box are an answer only where the box has one for them. The toolkit
     // would take them for No, which can end the program.
     void keyPressEvent(QKeyEvent* event) override
