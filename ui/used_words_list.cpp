@@ -7,6 +7,14 @@
 
 #include <algorithm>
 
+UsedWordsList::UsedWordsList(QWidget* parent)
+    : QListWidget(parent)
+{
+    setFrameShape(NoFrame);
+    // At a scale of 1.5 the words would reach a dot too far, over the edge.
+    setViewportMargins(1, 1, 1, 1);
+}
+
 // Words come one at a time to a list that can be long, so what is there already stays.
 void UsedWordsList::SetWords(const std::vector<std::string>& words)
 {
@@ -43,11 +51,23 @@ void UsedWordsList::keyPressEvent(QKeyEvent* event)
         event->ignore();
 }
 
+bool UsedWordsList::event(QEvent* event)
+{
+    if (event->type() != QEvent::Paint)
+        return QListWidget::event(event);
+    QPainter painter(this);
+    const QColor ground = palette().color(QPalette::Base);
+    painter.fillRect(rect(), ground);
+    DrawOutline(painter, rect(), contentsMargins().left(),
+        Blend(palette().color(QPalette::Text), ground, 0.65));
+    return true;
+}
+
 // The style marks the focus on a word of the list, and an empty list has none.
 void UsedWordsList::paintEvent(QPaintEvent* event)
 {
     QListWidget::paintEvent(event);
     QPainter painter(viewport());
     if (hasFocus())
-        DrawFocusRing(painter, viewport()->rect(), 1);
+        DrawFocusRing(painter, viewport()->rect(), contentsMargins().left());
 }

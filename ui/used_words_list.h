@@ -8,11 +8,12 @@
 
 class UsedWordsList : public QListWidget {
 public:
-    using QListWidget::QListWidget;
+    explicit UsedWordsList(QWidget* parent);
 
     void SetWords(const std::vector<std::string>& words);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
