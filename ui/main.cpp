@@ -1,4 +1,5 @@
 #include "ui/board_style.h"
+#include "ui/no_display.h"
 #include "ui/program.h"
 
 #include <QApplication>
@@ -7,7 +8,9 @@ int main(int argc, char* argv[])
 {
     QApplication::setStyle(new BoardStyle);
     QGuiApplication::setDesktopFileName(QStringLiteral("quorvel2"));
+    ListenForNoDisplay();
     const QApplication application(argc, argv);
+    StopListening();
     Program program;
     program.window.show();
     return QApplication::exec();
