@@ -3,10 +3,11 @@
 #pragma once
 
 #include "game/numbered.h"
+#include "lexicon/limits.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@ inline constexpr std::int16_t ledgerSlots = 250;
 inline constexpr std::int16_t fewestCandidates = 300;
 inline constexpr std::int16_t mostCandidates = 2000;
 
+inline constexpr std::int16_t levels = 6;
+
 // One box of a row: "" or one letter, in UTF-8 as all texts. In the guess rows it is whatever the
 // player has typed.
 struct LetterBox {
@@ -23,7 +26,7 @@ struct LetterBox {
     bool Enabled = true; // a disabled box takes no click
 };
 
-using LetterRow = Numbered<LetterBox, 1, 6>;
+using LetterRow = Numbered<LetterBox, 1, lettersPerWord>;
 
 // A box that shows a number. Rules read the number back out of the text.
 struct NumberBox {
@@ -57,12 +60,11 @@ public:
     void Clear() { words_.clear(); }
     void AddItem(const std::string& word) { words_.push_back(word); }
 
-    // The number of words, 0 to 32767. The list itself takes every word; its count stays at 32767
+    // The number of words. The list itself takes every word; its count stays at `largestCount`
     // from there on, and with it the bonus.
     std::int16_t ListCount() const
     {
-        constexpr std::int16_t most = std::numeric_limits<std::int16_t>::max();
-        return words_.size() < most ? static_cast<std::int16_t>(words_.size()) : most;
+        return static_cast<std::int16_t>(std::min<std::size_t>(words_.size(), largestCount));
     }
     const std::vector<std::string>& Words() const { return words_; }
 
@@ -104,8 +106,8 @@ struct Board {
     std::string ProbeWord;  // goes into CheckWordUsed
     bool ProbeUsed = false; // comes out of it
 
-    // The word list as the start of the game found it: its number of records (0 to 32767), the last
-    // record read, and the words that the 18 letters can make, CandidateCount of them.
+    // The word list as the start of the game found it: its number of records, the last record
+    // read, and the words that the 18 letters can make, CandidateCount of them.
     std::int16_t WordCount = 0;
     std::string CurrentWord;
     Numbered<std::string, 1, mostCandidates> Candidates;
@@ -113,9 +115,9 @@ struct Board {
 
     // The computer: 0 while no level is chosen, else 1 (strongest) to 6; and its search.
     std::int16_t Level = 0;
-    std::array<char32_t, 6> SortBuffer{}; // letters on their way through SortLetters
-    bool ComputerScored = false;          // the swap last tried made a word
-    std::int16_t FruitlessSwaps = 0;      // 0 to 4
+    std::array<char32_t, lettersPerWord> SortBuffer{}; // letters on their way through SortLetters
+    bool ComputerScored = false;                       // the swap last tried made a word
+    std::int16_t FruitlessSwaps = 0;                   // 0 to 4
 
     // "Show Responses": 1 when ticked, 0 when clear.
     std::int16_t Check1 = 0;

@@ -12,7 +12,7 @@ namespace {
 
 void RevealAllLetters(Board& board)
 {
-    for (int k = 1; k <= 6; ++k) {
+    for (int k = 1; k <= lettersPerWord; ++k) {
         board.Text6(k).Text = board.Word1(k).Text = LetterOf(board.HiddenWords(1), k);
         board.Text7(k).Text = board.Word2(k).Text = LetterOf(board.HiddenWords(2), k);
         board.Text8(k).Text = board.Word3(k).Text = LetterOf(board.HiddenWords(3), k);

@@ -47,12 +47,14 @@ constexpr auto inFrame1 = In<&Board::Frame1>; // the level panel
 constexpr auto inFrame2 = In<&Board::Frame2>; // "The Words (Buy Letters)"
 constexpr auto inFrame4 = In<&Board::Frame4>; // "Your Letters + Score"
 
+constexpr int boxes = lettersPerWord; // of a row
+
 // Control, boxes, on view, enabled, handler.
 constexpr Click clicks[] = {
-    {"Option1", 6, inFrame1, Always, Option1_Click},             // "Level 1" to "Level 6"
-    {"Command1", 0, inFrame1, Always, Plain<Command1_Click>},    // "OK"
-    {"Text1", 6, inFrame4, BoxFlag<&Board::Text1>, Text1_Click}, // a box of "Your Letters"
-    {"SwapLetters", 6, InFrame3Or4, BoxFlag<&Board::SwapLetters>,
+    {"Option1", levels, inFrame1, Always, Option1_Click},            // "Level 1" to "Level 6"
+    {"Command1", 0, inFrame1, Always, Plain<Command1_Click>},        // "OK"
+    {"Text1", boxes, inFrame4, BoxFlag<&Board::Text1>, Text1_Click}, // a box of "Your Letters"
+    {"SwapLetters", boxes, InFrame3Or4, BoxFlag<&Board::SwapLetters>,
         SwapLetters_Click}, // a box of "Swap Letters"
     {"Command4", 0, inFrame4, ButtonFlag<&Board::Command4>, Plain<Command4_Click>}, // "<"
     {"Command5", 0, inFrame4, ButtonFlag<&Board::Command5>, Plain<Command5_Click>}, // ">"
@@ -60,16 +62,16 @@ constexpr Click clicks[] = {
     {"Command15", 0, inFrame4, Always, Plain<Command15_Click>}, // "Rotate Swap Letters"
     {"Command16", 0, inFrame4, ButtonFlag<&Board::Command16>, Plain<Command16_Click>}, // "+"
     {"Command9", 0, inFrame4, ButtonFlag<&Board::Command9>,
-        Plain<Command9_Click>},                                  // "Lay Out Word"
-    {"Text2", 6, inFrame4, BoxFlag<&Board::Text2>, Text2_Click}, // a box above "Lay Out Word"
-    {"Command3", 0, inFrame4, Always, Plain<Command3_Click>},    // "Submit Word"
-    {"Command13", 0, inFrame4, Always, Plain<Command13_Click>},  // "Pass"
-    {"Command14", 0, inFrame4, Always, Plain<Command14_Click>},  // "Jumble"
-    {"Word1", 6, inFrame2, BoxFlag<&Board::Word1>, Word1_Click}, // a box of the first hidden word
-    {"Word2", 6, inFrame2, BoxFlag<&Board::Word2>, Word2_Click}, // a box of the second
-    {"Word3", 6, inFrame2, BoxFlag<&Board::Word3>, Word3_Click}, // a box of the third
-    {"Command7", 0, inFrame2, Always, Plain<Command7_Click>},    // "Make A Guess"
-    {"Command10", 0, inFrame2, Always, Plain<Command10_Click>},  // "Give In"
+        Plain<Command9_Click>},                                      // "Lay Out Word"
+    {"Text2", boxes, inFrame4, BoxFlag<&Board::Text2>, Text2_Click}, // a box above "Lay Out Word"
+    {"Command3", 0, inFrame4, Always, Plain<Command3_Click>},        // "Submit Word"
+    {"Command13", 0, inFrame4, Always, Plain<Command13_Click>},      // "Pass"
+    {"Command14", 0, inFrame4, Always, Plain<Command14_Click>},      // "Jumble"
+    {"Word1", boxes, inFrame2, BoxFlag<&Board::Word1>, Word1_Click}, // a box of hidden word 1
+    {"Word2", boxes, inFrame2, BoxFlag<&Board::Word2>, Word2_Click}, // a box of hidden word 2
+    {"Word3", boxes, inFrame2, BoxFlag<&Board::Word3>, Word3_Click}, // a box of hidden word 3
+    {"Command7", 0, inFrame2, Always, Plain<Command7_Click>},        // "Make A Guess"
+    {"Command10", 0, inFrame2, Always, Plain<Command10_Click>},      // "Give In"
 };
 
 } // namespace

@@ -18,9 +18,9 @@ namespace {
 bool TryAllExchanges(Game& game)
 {
     Board& board = game.board;
-    for (int i = 1; i <= 6; ++i) {
+    for (int i = 1; i <= lettersPerWord; ++i) {
         board.SwapLetters(i).Enabled = true;
-        for (int j = 1; j <= 6; ++j) {
+        for (int j = 1; j <= lettersPerWord; ++j) {
             // Meant: two equal letters are exchanged too. Only such a trial finds a word that
             // stands in the row already.
             std::swap(board.MyLetters(i).Text, board.SwapLetters(j).Text);
@@ -49,8 +49,8 @@ void ExchangeAtRandom(Game& game)
     int p = 0;
     int q = 0;
     do {
-        p = DrawNumber(game.platform, 6);
-        q = DrawNumber(game.platform, 6);
+        p = DrawNumber(game.platform, lettersPerWord);
+        q = DrawNumber(game.platform, lettersPerWord);
     } while (board.MyLetters(p).Text == board.SwapLetters(q).Text);
     std::swap(board.MyLetters(p).Text, board.SwapLetters(q).Text);
     ++board.FruitlessSwaps;

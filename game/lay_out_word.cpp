@@ -15,7 +15,7 @@ void Command9_Click(Game& game)
     for (Button* button : ArrangingButtons(board))
         button->Enabled = false;
     Disable(board.Text1);
-    for (int i = 1; i <= 6; ++i)
+    for (int i = 1; i <= lettersPerWord; ++i)
         board.Text2(i).Text = std::exchange(board.Text1(i).Text, "");
     board.LayOutNext = 1;
 }
@@ -28,6 +28,6 @@ void Text2_Click(Game& game, std::int16_t Index)
         return;
     board.Text1(board.LayOutNext).Text = std::exchange(board.Text2(Index).Text, "");
     ++board.LayOutNext;
-    if (board.LayOutNext == 7)
+    if (board.LayOutNext > lettersPerWord)
         EnableArranging(board);
 }

@@ -66,10 +66,10 @@ void Command4_Click(Game& game)
     // A gap would move with the letters, and the letter that belongs there would not.
     if (HasEmptyBox(board.Text1))
         return;
-    for (int i = 1; i <= 5; ++i)
+    for (int i = 1; i < lettersPerWord; ++i)
         std::swap(board.Text1(i).Text, board.Text1(i + 1).Text);
     if (RedLetterTurnsToo(board))
-        std::swap(board.Text1(6).Text, board.SwapLetters(1).Text);
+        std::swap(board.Text1(lettersPerWord).Text, board.SwapLetters(1).Text);
 }
 
 // ">"
@@ -78,7 +78,7 @@ void Command5_Click(Game& game)
     Board& board = game.board;
     if (HasEmptyBox(board.Text1))
         return;
-    for (int i = 5; i >= 1; --i)
+    for (int i = lettersPerWord - 1; i >= 1; --i)
         std::swap(board.Text1(i).Text, board.Text1(i + 1).Text);
     if (RedLetterTurnsToo(board))
         std::swap(board.Text1(1).Text, board.SwapLetters(1).Text);
@@ -108,6 +108,6 @@ void Command15_Click(Game& game)
     Board& board = game.board;
     if (!board.SwapLetters(1).Enabled)
         return;
-    for (int i = 1; i <= 5; ++i)
+    for (int i = 1; i < lettersPerWord; ++i)
         std::swap(board.SwapLetters(i).Text, board.SwapLetters(i + 1).Text);
 }

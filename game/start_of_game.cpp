@@ -179,10 +179,10 @@ void DealLetters(Game& game)
     std::string jumbled;
     while (!pool.empty())
         jumbled += TakeLetter(game.platform, pool);
-    for (int i = 1; i <= 6; ++i) {
+    for (int i = 1; i <= lettersPerWord; ++i) {
         board.MyLetters(i).Text = LetterOf(jumbled, i);
-        board.Text1(i).Text = LetterOf(jumbled, i + 6);
-        board.SwapLetters(i).Text = LetterOf(jumbled, i + 12);
+        board.Text1(i).Text = LetterOf(jumbled, lettersPerWord + i);
+        board.SwapLetters(i).Text = LetterOf(jumbled, 2 * lettersPerWord + i);
     }
     board.HeldLetter.clear();
     board.HeldIndex = 0;

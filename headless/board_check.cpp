@@ -50,7 +50,7 @@ bool ShownLettersAreHidden(const Board& board)
 {
     const LetterRow* const rows[] = {&board.Word1, &board.Word2, &board.Word3};
     for (int word = 1; word <= 3; ++word) {
-        for (int k = 1; k <= 6; ++k) {
+        for (int k = 1; k <= lettersPerWord; ++k) {
             const std::string& shown = (*rows[word - 1])(k).Text;
             if (!shown.empty() && shown != LetterOf(board.HiddenWords(word), k))
                 return false;
@@ -61,7 +61,7 @@ bool ShownLettersAreHidden(const Board& board)
 
 auto Filled(const LetterRow& row)
 {
-    return 6 - std::ranges::count(row, "", &LetterBox::Text);
+    return lettersPerWord - std::ranges::count(row, "", &LetterBox::Text);
 }
 
 std::string FaultOfView(const Board& board, bool between)
@@ -86,10 +86,11 @@ std::string FaultOfGame(const Board& board, bool between)
         {LettersAreThoseOfTheHiddenWords(board), "the letters are not those of the hidden words"},
         {board.HeldFlag == (board.HeldIndex != 0) && board.HeldFlag != board.HeldLetter.empty(),
             "the held letter contradicts itself"},
-        {up + Filled(board.Text1) + board.HeldFlag == 6, "not six letters to the player"},
-        {up == 0 || up + board.LayOutNext == 7, "a laying out has lost its place"},
+        {up + Filled(board.Text1) + board.HeldFlag == lettersPerWord,
+            "not six letters to the player"},
+        {up == 0 || up + board.LayOutNext == lettersPerWord + 1, "a laying out has lost its place"},
         {!HasEmptyBox(board.MyLetters) && !HasEmptyBox(board.SwapLetters), "an empty box"},
-        {std::ranges::count(board.SwapLetters, true, &LetterBox::Enabled) % 6 == 0,
+        {std::ranges::count(board.SwapLetters, true, &LetterBox::Enabled) % lettersPerWord == 0,
             "half of the swap row takes clicks"},
         {BonusIsTenTimesTheUsedWords(board), "the bonus is not ten times the used words"},
         {LedgerIsTheList(board), "the ledger is not the list of used words"},

@@ -90,8 +90,9 @@ void SetHeld(Board& board, const std::string& held)
 {
     board.HeldFlag = !held.empty();
     board.HeldLetter = held.substr(0, held.empty() ? 0 : held.size() - 1);
-    board.HeldIndex = board.HeldFlag ? ReadNumber<std::int16_t>(held.substr(held.size() - 1), 1, 6)
-                                     : std::int16_t{0};
+    board.HeldIndex = board.HeldFlag
+        ? ReadNumber<std::int16_t>(held.substr(held.size() - 1), 1, lettersPerWord)
+        : std::int16_t{0};
 }
 
 void SetHidden(Board& board, const std::string& text)
@@ -245,9 +246,9 @@ const Part parts[] = {
         SetHidden},
     Rows("shown=", {&Board::Word1, &Board::Word2, &Board::Word3}),
     Rows("guess=", {&Board::Text6, &Board::Text7, &Board::Text8}),
-    Count("next:", &Board::LayOutNext, 0, 7),
+    Count("next:", &Board::LayOutNext, 0, lettersPerWord + 1),
     Count("fruitless:", &Board::FruitlessSwaps, 0, 4),
-    Count("level:", &Board::Level, 0, 6),
+    Count("level:", &Board::Level, 0, levels),
     {"candidates=", [](const Board& board) { return std::to_string(board.CandidateCount); },
         SetCandidates},
     Count("responses:", &Board::Check1, 0, 1),

@@ -26,7 +26,7 @@ void TypeHiddenWords(HeadlessGame& game)
 {
     Board& board = game.board;
     for (int word = 1; word <= 3 && board.Frame2.Visible && !board.HiddenWords(1).empty(); ++word)
-        for (int k = 1; k <= 6; ++k)
+        for (int k = 1; k <= lettersPerWord; ++k)
             (board.*guessRows[word - 1])(k).Text = LetterOf(board.HiddenWords(word), k);
 }
 
@@ -61,7 +61,7 @@ Run ReadTyping(const std::string& control, const std::string& box, const std::st
     Demand(control == "Text6" || control == "Text7" || control == "Text8",
         "nothing can be typed into " + control);
     const auto row = guessRows[control.back() - '6'];
-    const int index = ReadNumber(box, 1, 6);
+    const int index = ReadNumber(box, 1, lettersPerWord);
     return [=](HeadlessGame& game) {
         if (game.board.Frame2.Visible)
             (game.board.*row)(index).Text = WithBlanks(text);
@@ -113,7 +113,7 @@ Run ReadDraws(const std::string& word)
     const std::size_t slash = draw.find('/');
     float value = justBelowOne;
     if (slash != std::string::npos) {
-        const int of = ReadNumber(std::string_view(draw).substr(slash + 1), 1, 32767);
+        const int of = ReadNumber<int>(std::string_view(draw).substr(slash + 1), 1, largestCount);
         value = DrawOf(ReadNumber(std::string_view(draw).substr(0, slash), 1, of), of);
     } else if (draw != "<1") {
         value = ReadNumber<float>(draw, 0, justBelowOne);

@@ -25,7 +25,7 @@ std::vector<Move> MovesFor(const Board& board, const std::string& word)
     LetterRow own = board.Text1;
     std::vector<Move> layOut;
     std::string wanted;
-    for (int k = 1; k <= 6; ++k) {
+    for (int k = 1; k <= lettersPerWord; ++k) {
         const std::string letter(LetterOf(word, k));
         const std::int16_t box = BoxOf(own, letter);
         layOut.push_back({"Text2", box});

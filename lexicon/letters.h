@@ -7,9 +7,6 @@
 #include <cstdint>
 #include <string_view>
 
-// Every word of the game has so many letters.
-inline constexpr std::size_t lettersPerWord = 6;
-
 std::size_t CountLetters(std::string_view text);
 
 // Letter number k of a text that has it, counted from 1, in place.

@@ -17,7 +17,8 @@
 
 namespace {
 
-// Several times what 32767 records of six letters take. A damaged disk can show a file of any size.
+// Several times what the most records of six letters take. A damaged disk can show a file of any
+// size.
 constexpr std::size_t largestFile = 4'000'000;
 constexpr std::size_t firstBuffer = 65536; // a list of 9000 six-letter words
 

@@ -2,11 +2,11 @@
 
 #include "lexicon/letters.h"
 #include "lexicon/lexicon_file.h"
+#include "lexicon/limits.h"
 
 #include <algorithm>
 #include <array>
 #include <cassert>
-#include <limits>
 #include <map>
 
 namespace {
@@ -99,8 +99,8 @@ WordCount CountWords(LexiconFile& lexicon)
                 counted.firstLetters += letter;
         }
         last = lexicon.ReadRecord();
-        if (counted.records == std::numeric_limits<std::int16_t>::max())
-            throw LexiconError("the word list has more than 32767 records");
+        if (counted.records == largestCount)
+            throw LexiconError("the word list has more records than can be counted");
         ++counted.records;
     }
     counted.last = last;

@@ -19,7 +19,7 @@ struct WordCount {
     std::u32string firstLetters;
 };
 
-// Throws LexiconError at the record after number 32767.
+// Throws LexiconError at the record after number `largestCount`.
 WordCount CountWords(LexiconFile& lexicon);
 
 // The record at position draw * wordCount, for a draw of at least 0 and below 1. Position 0 reads

@@ -26,7 +26,7 @@ bool IsInPlay(const Controls& controls, const Board& board, const QWidget& widge
 
 int FirstFilled(const LetterRow& row)
 {
-    for (int box = 1; box <= 6; ++box) {
+    for (int box = 1; box <= lettersPerWord; ++box) {
         if (!row(box).Text.empty())
             return box;
     }
@@ -50,7 +50,7 @@ void JoinRows(const Controls& controls)
     GuessBox* last = nullptr;
     const char* above = nullptr;
     for (const char* row : guessRows) {
-        for (int number = 1; number <= 6; ++number) {
+        for (int number = 1; number <= lettersPerWord; ++number) {
             auto& box = Find<GuessBox>(controls, row, number);
             if (last != nullptr)
                 box.JoinTo(*last, number > 1);
@@ -101,7 +101,7 @@ bool FocusStaysInPlay(const Controls& controls, const Board& board)
 void FocusOnGap(const Controls& controls, const Board& board)
 {
     const LetterRow* const rows[] = {&board.Text6, &board.Text7, &board.Text8};
-    for (int box = 1; box <= 6; ++box) {
+    for (int box = 1; box <= lettersPerWord; ++box) {
         for (std::size_t row = 0; row < std::size(rows); ++row) {
             if ((*rows[row])(box).Text.empty())
                 return Find(controls, guessRows[row], box).setFocus(Qt::TabFocusReason);

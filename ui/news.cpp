@@ -18,7 +18,7 @@ QString Text(const std::string& text)
 int Differing(const LetterRow& one, const LetterRow& other)
 {
     int boxes = 0;
-    for (int box = 1; box <= 6; ++box)
+    for (int box = 1; box <= lettersPerWord; ++box)
         boxes += one(box).Text != other(box).Text ? 1 : 0;
     return boxes;
 }
@@ -36,7 +36,7 @@ QStringList NewRow(const QString& name, const LetterRow& told, const LetterRow& 
 {
     if (Differing(told, now) == 0)
         return {};
-    return {name + u": "_s + Letters(now, 1, 6, u"empty"_s)};
+    return {name + u": "_s + Letters(now, 1, lettersPerWord, u"empty"_s)};
 }
 
 // The hand lifts a letter, or puts down the one that it holds; "" when the letters have moved in
@@ -78,7 +78,7 @@ QString LayingOut(const Heard& told, const Heard& now)
     if (last < first)
         return {};
     const QString placed = Letters(now.Text1, first, last, u"empty"_s) + u", %1 of 6"_s.arg(last);
-    return last < 6 ? placed : placed + u". Your row: "_s + Text(Spell(now.Text1));
+    return last < lettersPerWord ? placed : placed + u". Your row: "_s + Text(Spell(now.Text1));
 }
 
 QStringList NewRows(const Heard& told, const Heard& now)
@@ -122,7 +122,7 @@ QStringList NewLetters(const Heard& told, const Heard& now)
         if (!HasEmptyBox(row))
             letters += u": "_s + Text(Spell(row));
         else if (found > 1)
-            letters += u": "_s + Letters(row, 1, 6, u"blank"_s);
+            letters += u": "_s + Letters(row, 1, lettersPerWord, u"blank"_s);
         news += letters;
     }
     return news;
@@ -131,7 +131,7 @@ QStringList NewLetters(const Heard& told, const Heard& now)
 // True when a letter that was known is another one now.
 bool Replaced(const LetterRow& told, const LetterRow& now)
 {
-    for (int box = 1; box <= 6; ++box) {
+    for (int box = 1; box <= lettersPerWord; ++box) {
         if (!told(box).Text.empty() && told(box).Text != now(box).Text)
             return true;
     }

@@ -14,7 +14,7 @@ namespace {
 int BoxWith(const LetterRow& row, char32_t letter)
 {
     const std::string text = QString::fromUcs4(&letter, 1).toStdString();
-    for (int box = 1; box <= 6; ++box) {
+    for (int box = 1; box <= lettersPerWord; ++box) {
         if (row(box).Text == text)
             return box;
     }
@@ -97,7 +97,7 @@ void Typing::TypeLetter(char32_t letter) const
     if (box == 0)
         return;
     Click("Text2", box);
-    for (int left = 1; left <= 6; ++left) {
+    for (int left = 1; left <= lettersPerWord; ++left) {
         if (!board_.Text2(left).Text.empty())
             return Find(controls_, "Text2", left).setFocus();
     }
@@ -106,7 +106,7 @@ void Typing::TypeLetter(char32_t letter) const
 
 void Typing::PlaceTheRest() const
 {
-    for (int box = 1; box <= 6 && CanType(); ++box) {
+    for (int box = 1; box <= lettersPerWord && CanType(); ++box) {
         if (!board_.Text2(box).Text.empty())
             Click("Text2", box);
     }

@@ -1,5 +1,6 @@
 #include "tools/search/sessions.h"
 
+#include "game/board.h"
 #include "game/clicks.h"
 #include "headless/fingerprint.h"
 #include "headless/script.h"
@@ -86,7 +87,7 @@ std::string DrawTyping(Chance& chance, const std::string& box)
 // A patient player neither gives in nor knows the words.
 std::string DrawEvent(Chance& chance, bool patient)
 {
-    const std::string box{':', static_cast<char>('1' + chance.Below(6))};
+    const std::string box{':', static_cast<char>('1' + chance.Below(lettersPerWord))};
     const int kind = chance.Below(40);
     if (kind == 0)
         return "Check1=" + std::to_string(chance.Below(2));
@@ -119,7 +120,7 @@ Session DrawSession(std::uint32_t seed, int number)
         if (own.Below(100) < wordsInHundred)
             drawn = "word:" + std::to_string(own.Below(1000));
         else if (event % 100 == 1)
-            drawn = "Option1:" + std::to_string(1 + own.Below(6));
+            drawn = "Option1:" + std::to_string(1 + own.Below(levels));
         if (drawn == "Command10" && (patient || own.Below(4) != 0))
             session.events.emplace_back("no");
         session.events.push_back((waits ? "~" : "") + drawn);

@@ -3,6 +3,7 @@
 //   level_table WORD_LIST DATA         prints the table and one number for all that was played, and
 //                                      writes what levels.gnuplot draws
 //   level_table WORD_LIST LEVEL SEED   prints the story of one of these games, line by line
+#include "game/board.h"
 #include "headless/fingerprint.h"
 #include "headless/script_error.h"
 #include "tools/self_play/played_game.h"
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr std::int16_t levels = 6;
 constexpr std::uint32_t games = 500;
 constexpr int mostGoes = 1000;
 

@@ -20,7 +20,6 @@
 
 namespace {
 
-constexpr std::int16_t levels = 6;
 constexpr std::uint32_t openings = 1000;
 constexpr std::uint32_t games = 200; // of each person at each level
 constexpr int mostGoes = 300;
@@ -51,7 +50,7 @@ std::string Sorted(std::string letters)
 
 bool Shows(const LetterRow& shown, const std::string& word)
 {
-    for (int k = 1; k <= 6; ++k) {
+    for (int k = 1; k <= lettersPerWord; ++k) {
         if (!shown(k).Text.empty() && shown(k).Text != LetterOf(word, k))
             return false;
     }
@@ -81,7 +80,7 @@ Trios FindAnswers(const Board& board, const Words& known)
             std::string rest;
             std::ranges::set_difference(all, two, std::back_inserter(rest));
             const auto third = thirds.find(rest);
-            if (rest.size() != 6 || third == thirds.end())
+            if (rest.size() != lettersPerWord || third == thirds.end())
                 continue;
             for (const std::string& word : third->second)
                 answers.push_back({first, second, word});
@@ -142,7 +141,7 @@ private:
         Trios answers = FindAnswers(board, known_);
         while (person_.buys && answers.size() > person_.guesses
             && NumberOf(board.YourScore.Text) >= 2 * letterPrice) {
-            const auto box = static_cast<std::int16_t>(luck_() % 6 + 1);
+            const auto box = static_cast<std::int16_t>(luck_() % lettersPerWord + 1);
             Click({std::array{"Word1", "Word2", "Word3"}[luck_() % 3], box});
             answers = FindAnswers(board, known_);
         }
@@ -154,7 +153,7 @@ private:
             tried_.insert(answer);
             LetterRow* const rows[] = {&board.Text6, &board.Text7, &board.Text8};
             for (std::size_t row = 0; row < 3; ++row) {
-                for (int k = 1; k <= 6; ++k)
+                for (int k = 1; k <= lettersPerWord; ++k)
                     (*rows[row])(k).Text = LetterOf(answer[row], k);
             }
             Click({"Command7"}); // "Make A Guess"

@@ -1,6 +1,7 @@
 #include "tools/word_list/largest_game.h"
 
 #include "lexicon/letters.h"
+#include "lexicon/limits.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -11,7 +12,7 @@
 
 namespace {
 
-constexpr int hiddenLetters = 18;
+constexpr int hiddenLetters = 3 * lettersPerWord;
 
 using Letter = std::size_t; // letters are numbered from 0
 using WordLetters = std::array<Letter, lettersPerWord>;

@@ -2,13 +2,13 @@
 
 #include "lexicon/letters.h"
 #include "lexicon/lexicon_file.h"
+#include "lexicon/limits.h"
 
 #include <algorithm>
 #include <set>
 
 namespace {
 
-constexpr std::size_t mostRecords = 32767;
 constexpr std::size_t fewestFirstLetters = 3;
 constexpr std::size_t mostNamed = 10; // records named one by one, before the rest is only counted
 
@@ -64,9 +64,9 @@ std::vector<std::string> ReadRecords(const std::filesystem::path& list)
 std::vector<std::string> FindFaults(const std::vector<std::string>& records)
 {
     std::vector<std::string> faults;
-    if (records.size() > mostRecords)
-        faults.push_back(
-            "It has " + std::to_string(records.size()) + " records; the game counts to 32767.");
+    if (records.size() > largestCount)
+        faults.push_back("It has " + std::to_string(records.size())
+            + " records; the game counts to " + std::to_string(largestCount) + ".");
     std::size_t broken = 0;
     for (std::size_t k = 0; k < records.size(); ++k) {
         const std::string fault = FaultOf(records[k]);
