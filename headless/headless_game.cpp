@@ -23,9 +23,9 @@ bool Spells(std::string row, std::string word)
 
 } // namespace
 
-HeadlessGame::HeadlessGame(std::filesystem::path wordList, HeadlessPlatform chance)
+HeadlessGame::HeadlessGame(std::filesystem::path wordList, HeadlessPlatform chance, GameView* shown)
     : platform(std::move(chance))
-    , game{board, view, platform, std::move(wordList)}
+    , game{board, shown != nullptr ? *shown : view, platform, std::move(wordList)}
 {
     view.during = [this](const std::string& call) { OnCall(call); };
     StartProgram();
@@ -98,6 +98,17 @@ void HeadlessGame::Click(std::string_view control, std::int16_t index)
         Require(board.SwapLetters(1).Enabled || control == "Command3", "a go with no exchange");
     }
     CheckBoard();
+}
+
+void HeadlessGame::Type(std::string_view row, int index, const std::string& text)
+{
+    LetterRow& boxes = row == "Text6" ? board.Text6 : row == "Text7" ? board.Text7 : board.Text8;
+    boxes(index).Text = text;
+}
+
+void HeadlessGame::Tick(bool ticked)
+{
+    board.Check1 = ticked ? 1 : 0;
 }
 
 void HeadlessGame::UseList(const std::string& bytes)

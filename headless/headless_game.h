@@ -26,8 +26,12 @@ struct Event {
 
 class HeadlessGame {
 public:
-    explicit HeadlessGame(
-        std::filesystem::path wordList, HeadlessPlatform chance = HeadlessPlatform());
+    // With a view it is asked in place of the recording one.
+    explicit HeadlessGame(std::filesystem::path wordList,
+        HeadlessPlatform chance = HeadlessPlatform(), GameView* shown = nullptr);
+    virtual ~HeadlessGame() = default;
+    HeadlessGame(const HeadlessGame&) = delete;
+    HeadlessGame& operator=(const HeadlessGame&) = delete;
 
     std::unique_ptr<Board> boardInHeap = std::make_unique<Board>();
     Board& board = *boardInHeap;
@@ -45,8 +49,11 @@ public:
     // The same for the words of a script, "Text1:4 Command3". Throws ScriptError.
     void Play(std::string_view events);
 
-    // Delivers a click, as a step of an event; 0 for a single control. Tells when it is refused.
-    void Click(std::string_view control, std::int16_t index = 0);
+    // Steps of an event, which a game in a window takes by mouse and keys: a click, 0 for a single
+    // control, which tells when it is refused; a text in a box of the guess; "Show Responses".
+    virtual void Click(std::string_view control, std::int16_t index = 0);
+    virtual void Type(std::string_view row, int index, const std::string& text);
+    virtual void Tick(bool ticked);
 
     // From here on the game is held to its rules, at every event and every repaint: to those of
     // every board and to those that reach from one event to another.

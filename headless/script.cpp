@@ -14,7 +14,7 @@ namespace {
 
 using Run = std::function<void(HeadlessGame& game)>;
 
-constexpr LetterRow Board::* guessRows[] = {&Board::Text6, &Board::Text7, &Board::Text8};
+constexpr std::string_view guessRows[] = {"Text6", "Text7", "Text8"};
 
 std::string WithBlanks(std::string text)
 {
@@ -24,10 +24,10 @@ std::string WithBlanks(std::string text)
 
 void TypeHiddenWords(HeadlessGame& game)
 {
-    Board& board = game.board;
+    const Board& board = game.board;
     for (int word = 1; word <= 3 && board.Frame2.Visible && !board.HiddenWords(1).empty(); ++word)
         for (int k = 1; k <= lettersPerWord; ++k)
-            (board.*guessRows[word - 1])(k).Text = LetterOf(board.HiddenWords(word), k);
+            game.Type(guessRows[word - 1], k, std::string(LetterOf(board.HiddenWords(word), k)));
 }
 
 // Submits the pick-th candidate, or the next that is in reach. Every eighth time it may be a used
@@ -51,20 +51,18 @@ void SubmitWord(HeadlessGame& game, int pick)
 Run ReadTyping(const std::string& control, const std::string& box, const std::string& text)
 {
     if (control == "Check1") {
-        const auto tick = ReadNumber<std::int16_t>(text, 0, 1);
+        const int tick = ReadNumber(text, 0, 1);
         Demand(box.empty(), "Check1 has no boxes");
         return [tick](HeadlessGame& game) {
             if (game.board.Frame9.Visible)
-                game.board.Check1 = tick;
+                game.Tick(tick == 1);
         };
     }
-    Demand(control == "Text6" || control == "Text7" || control == "Text8",
-        "nothing can be typed into " + control);
-    const auto row = guessRows[control.back() - '6'];
+    Demand(std::ranges::count(guessRows, control) == 1, "nothing can be typed into " + control);
     const int index = ReadNumber(box, 1, lettersPerWord);
     return [=](HeadlessGame& game) {
         if (game.board.Frame2.Visible)
-            (game.board.*row)(index).Text = WithBlanks(text);
+            game.Type(control, index, WithBlanks(text));
     };
 }
 

@@ -1,22 +1,111 @@
 #include "window_fixture.h"
 
+#include "game/clicks.h"
+#include "ui/binding.h"
 #include "ui/board_style.h"
 
+#include <QClipboard>
+#include <QListWidget>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QWindow>
 
-#include <set>
+#include <fstream>
+#include <regex>
+#include <sstream>
 #include <utility>
 
-Window::Window()
+void EndingView::EndProgram()
 {
-    view.PlayIn(window);
-    QObject::connect(&answerer, &QTimer::timeout, &answerer, [this] { AnswerMessage(); });
-    answerer.start(0);
+    if (mayEnd)
+        QtView::EndProgram();
+    std::_Exit(EXIT_FAILURE);
+}
+
+Window::Window()
+    : HeadlessGame("", HeadlessPlatform(20), &screen)
+{
+    UseList("planet\ngarden\nsimple\nplanet\n");
+    screen.PlayIn(window);
+    FindControls(); // at full scale, which the window is built at
+    QObject::connect(&answerer_, &QTimer::timeout, &answerer_, [this] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            AnswerBox(*box);
+    });
+}
+
+void Window::SetUp()
+{
+    for (const auto& [name, control] : controls)
+        ASSERT_NE(control.widget, nullptr) << name << " is not where window.txt has it";
+    answerer_.start(0);
     window.show();
     Activate();
     QCoreApplication::processEvents();
+}
+
+namespace {
+
+std::string TextOf(const QWidget& widget)
+{
+    const QVariant title = widget.property("title");
+    return (title.isValid() ? title : widget.property("text")).toString().toStdString();
+}
+
+// The one in the frame that stands there, if it shows the text or, as yet, nothing but zero.
+QWidget* FindIn(const QWidget& frame, const QRect& place, const std::string& shows)
+{
+    for (QWidget* widget : frame.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const std::string text = TextOf(*widget);
+        const bool fits = text == shows || text.empty() || text == "0";
+        const bool there = place.isNull() ? text == shows : widget->geometry() == place;
+        if (fits && there && widget->accessibleName() != "")
+            return widget;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void Window::FindControls()
+{
+    // Name, boxes, frame, left, top, step, width, height, text, looks.
+    const std::regex form("(\\w+)([ \\d]*) in (\\w+) (?:at (\\d+),(\\d+)(?: by (\\d+))? "
+                          "(\\d+)x(\\d+)|placed by the board)(?:; says \"([^\"]*)\")?; (.*)");
+    std::ifstream text(QUORVEL_WINDOW_TEXT);
+    for (std::string line; std::getline(text, line);) {
+        std::smatch part;
+        if (!std::regex_match(line, part, form)) {
+            EXPECT_TRUE(line.starts_with('#')) << line;
+            continue;
+        }
+        const auto pixels
+            = [&part](int k) { return part[k].matched ? std::stoi(part[k]) / 15 : 0; };
+        const QWidget* frame = part[3] == "window" ? &window : controls.at(part[3]).widget;
+        std::istringstream numbers(part[2]);
+        std::vector<int> boxes(std::istream_iterator<int>(numbers), {});
+        const bool single = boxes.empty();
+        if (single)
+            boxes.push_back(0);
+        for (std::size_t k = 0; k < boxes.size(); ++k) {
+            const int step = (boxes[k] - boxes[0]) * pixels(6);
+            const QRect place(pixels(4) + step, pixels(5), pixels(7), pixels(8));
+            const std::string shows = boxes.size() > 1 ? part[9].str().substr(k, 1) : part[9].str();
+            const std::string numbered
+                = std::regex_replace(part[10].str(), std::regex("#"), std::to_string(boxes[k]));
+            controls[part[1].str() + (single ? "" : ":" + std::to_string(boxes[k]))]
+                = {FindIn(*frame, place, shows), place, shows,
+                    std::regex_replace(numbered, std::regex("@"), shows)};
+        }
+    }
+}
+
+std::string Window::NameOf(const QWidget* widget) const
+{
+    for (const auto& [name, control] : controls) {
+        if (control.widget == widget)
+            return name;
+    }
+    return "no control";
 }
 
 void Window::Activate()
@@ -25,54 +114,134 @@ void Window::Activate()
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
-void Window::Click(const QString& name)
+void Window::Press(const std::string& name)
 {
-    QWidget* widget = Named(name);
-    ASSERT_NE(widget, nullptr) << name.toStdString();
+    const QWidget& widget = *Named(name);
     // The left edge of the level panel's backing is all that shows of it.
-    const QPoint at = name == "Command2" ? QPoint(3, 40) : widget->rect().center();
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&window, at));
+    const QPoint at = name == "Command2" ? QPoint(3, 40) : widget.rect().center();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window, at));
 }
 
-void Window::Play(const QString& steps)
+void Window::Play(const std::string& words)
 {
-    for (const QString& step : steps.split("; ")) {
+    std::istringstream stream(words);
+    for (std::string word; !HasFailure() && stream >> word;) {
         Activate(); // as it is again after a message
-        if (step.startsWith("key "))
-            QTest::keySequence(window.focusWidget(), QKeySequence(step.mid(4)));
-        else if (step.startsWith("Text") && step.contains('='))
-            Type(step.section('=', 0, 0), step.section('=', 1));
-        else if (step.contains('=') || step.contains(':'))
-            SetBoard(board, step.toStdString()), window.ShowBoard();
-        else
-            Click(step);
+        const QString rest = QString::fromStdString(word.substr(word.find_first_of("=:") + 1));
+        if (controls.contains(word)) {
+            Press(word);
+        } else if (word.starts_with("key:")) {
+            QTest::keySequence(window.focusWidget(), QKeySequence(rest));
+        } else if (word.starts_with("paste:")) {
+            QApplication::clipboard()->setText(rest);
+            QTest::keySequence(window.focusWidget(), QKeySequence::Paste);
+        } else if (std::islower(word[0]) && word.find_first_of("=:") != std::string::npos) {
+            SetBoard(board, word);
+            window.ShowBoard();
+        } else {
+            HeadlessGame::Play(word);
+        }
+        ExpectBoardOnView(word + " of " + words);
     }
 }
 
-std::string Window::State() const
+void Window::Play(const std::vector<Row>& rows)
 {
-    const auto all = [this](const char* names, bool (QWidget::*test)() const) {
-        std::set<bool> found;
-        for (const QWidget* widget : window.findChildren<QWidget*>(QRegularExpression(names)))
-            found.insert((widget->*test)());
-        return found.size() != 1 ? "?" : *found.begin() ? "1" : "0";
-    };
-    const auto shown = &QWidget::isVisible;
-    const auto enabled = &QWidget::isEnabled;
-    return std::string(all("^(Frame1|Command2)$", shown)) + all("^Frame[234579]$", shown)
-        + (Named("Label5")->isHidden() ? "0 " : "1 ") + all("^SwapLetters", enabled)
-        + all("^Command16$", enabled) + all("^(Text1|Command[4569]$)", enabled);
+    for (const Row& row : rows) {
+        if (HasFailure())
+            return;
+        view.calls.clear();
+        Play(row.steps);
+        EXPECT_TRUE(view.answers.empty()) << row.why;
+        const auto parts = PartsOf(board);
+        std::map<std::string, std::string> now(parts.begin(), parts.end());
+        now["focus="] = Focused();
+        std::istringstream then(row.then);
+        for (std::string part; then >> part;) {
+            const std::string key = part.substr(0, part.find_first_of("=:") + 1);
+            EXPECT_EQ(key + now[key], part) << row.why;
+        }
+        if (row.messages.empty())
+            continue;
+        EXPECT_EQ(view.calls.size(), row.messages.size()) << testing::PrintToString(view.calls);
+        for (std::size_t k = 0; k < std::min(view.calls.size(), row.messages.size()); ++k)
+            EXPECT_TRUE(view.calls[k].starts_with(row.messages[k])) << view.calls[k];
+    }
 }
 
-void Window::Type(const QString& row, const QString& text)
+namespace {
+
+// What the control shows of its field, against the field.
+struct ExpectField {
+    const QWidget& widget;
+    const Board& board;
+    int box;
+
+    void operator()(LetterRow Board::* row) const
+    {
+        EXPECT_EQ(TextOf(widget), (board.*row)(box).Text);
+        EXPECT_EQ(widget.isEnabled(), (board.*row)(box).Enabled);
+    }
+    void operator()(NumberBox Board::* number) const
+    {
+        EXPECT_EQ(TextOf(widget), (board.*number).Text);
+    }
+    void operator()(WordList Board::* words) const
+    {
+        const auto& list = dynamic_cast<const QListWidget&>(widget);
+        EXPECT_EQ(list.count(), (board.*words).ListCount());
+        for (int k = 0; k < list.count(); ++k)
+            EXPECT_EQ(list.item(k)->text().toStdString(), (board.*words).Words().at(k));
+    }
+    void operator()(std::int16_t Board::* number) const
+    {
+        const bool checked = dynamic_cast<const QAbstractButton&>(widget).isChecked();
+        EXPECT_EQ(checked, board.*number == std::max(box, 1));
+    }
+    template <typename Part> void operator()(Part Board::* part) const
+    {
+        EXPECT_EQ(!widget.isHidden(), (board.*part).Visible);
+    }
+};
+
+} // namespace
+
+void Window::ExpectBoardOnView(const std::string& when) const
 {
-    Named(row + "(1)")->setFocus(Qt::TabFocusReason);
-    const std::string& word = board.HiddenWords(text.mid(1).toInt());
-    for (const uint letter : QString::fromStdString(word).toUcs4())
+    for (const auto& [name, control] : controls) {
+        SCOPED_TRACE(name + " at " + when);
+        const std::size_t colon = std::min(name.find(':'), name.size());
+        const auto box = static_cast<std::int16_t>(
+            colon < name.size() ? std::stoi(name.substr(colon + 1)) : 0);
+        if (const ::Click* click = FindClick(name.substr(0, colon))) {
+            EXPECT_EQ(control.widget->isVisible(), click->OnView(board, box));
+            EXPECT_EQ(control.widget->isEnabled(), click->Enabled(board, box));
+        }
+        if (const Field* field = FindField(name.substr(0, colon)))
+            std::visit(ExpectField{*control.widget, board, box}, *field);
+    }
+    EXPECT_EQ(window.windowTitle().toStdString(), board.Caption);
+}
+
+void Window::Click(std::string_view control, std::int16_t index)
+{
+    Press(std::string(control) + (index > 0 ? ":" + std::to_string(index) : ""));
+}
+
+void Window::Type(std::string_view row, int index, const std::string& text)
+{
+    Press(std::string(row) + ":" + std::to_string(index));
+    for (const uint letter : QString::fromStdString(text).toUcs4())
         TypeLetter(letter);
 }
 
-void Window::TypeLetter(char32_t letter)
+void Window::Tick(bool ticked)
+{
+    if (Named<QAbstractButton>("Check1")->isChecked() != ticked)
+        Press("Check1");
+}
+
+void Window::TypeLetter(char32_t letter) const
 {
     if (letter < 0x80)
         QTest::keyClick(window.focusWidget(), static_cast<char>(letter));
@@ -87,38 +256,38 @@ void Window::Compose(const QString& letters) const
     QCoreApplication::sendEvent(window.focusWidget(), &composed);
 }
 
-void Window::AnswerMessage()
+void Window::AnswerBox(QMessageBox& box)
 {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr || box != std::exchange(met_, box)) // it takes no input while it opens
+    if (&box != std::exchange(met_, &box)) // it takes no input while it opens
         return;
-    EXPECT_EQ(box->icon(), QMessageBox::NoIcon);
-    messages.push_back((box->windowTitle() + ": " + box->text()).toStdString());
+    const bool asks = box.button(QMessageBox::Ok) == nullptr;
+    EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+    view.calls.push_back((box.windowTitle() + (asks ? "? " : ": ") + box.text()).toStdString());
     if (whileOpen)
-        whileOpen();
+        whileOpen(box);
     auto button = QMessageBox::Ok;
-    if (box->button(button) == nullptr) {
-        ASSERT_FALSE(answers.empty()) << "no answer is prepared for: " << messages.back();
-        const bool yes = answers.front() == 'y';
-        const bool noEnds = box->windowTitle() == "New Game";
+    if (asks) {
+        ASSERT_FALSE(view.answers.empty()) << "no answer is prepared for: " << view.calls.back();
+        const bool yes = view.answers.front() == Answer::Yes;
+        view.answers.pop_front();
+        const bool noEnds = box.windowTitle() == "New Game";
         EXPECT_EQ(
-            box->standardButton(box->defaultButton()), noEnds ? QMessageBox::Yes : QMessageBox::No);
+            box.standardButton(box.defaultButton()), noEnds ? QMessageBox::Yes : QMessageBox::No);
         if (noEnds || !yes)
-            QTest::keyClick(box, Qt::Key_Escape);
-        EXPECT_EQ(box->isVisible(), noEnds || yes) << "Escape is no answer where No is the end";
-        EXPECT_FALSE(noEnds && box->close()) << "nor is closing the box";
-        answers.erase(0, 1);
-        if (!box->isVisible())
+            QTest::keyClick(&box, Qt::Key_Escape);
+        EXPECT_EQ(box.isVisible(), noEnds || yes) << "Escape is no answer where No is the end";
+        EXPECT_FALSE(noEnds && box.close()) << "nor is closing the box";
+        if (!box.isVisible())
             return;
         button = yes ? QMessageBox::Yes : QMessageBox::No;
     }
-    QTest::mouseClick(box->button(button), Qt::LeftButton);
+    QTest::mouseClick(box.button(button), Qt::LeftButton);
 }
 
 int main(int argc, char* argv[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) // another one shows the tests on a display
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUORVEL_SCREENS);
     QApplication::setStyle(new BoardStyle);
     const QApplication application(argc, argv);
     QFont desktop;

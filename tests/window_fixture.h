@@ -2,12 +2,10 @@
 #pragma once
 
 #include "game/board.h"
-#include "game/game.h"
 #include "headless/board_text.h"
-#include "headless/word_list_file.h"
+#include "headless/headless_game.h"
 #include "ui/main_window.h"
 #include "ui/qt_view.h"
-#include "ui/system_platform.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -18,84 +16,86 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <memory>
-
-// Chance that is the same in every run, with a hook into the work between two paintings.
-class SteadyPlatform : public SystemPlatform {
-public:
-    std::function<void()> onDraw;
-
-    float DrawRandom() override
-    {
-        if (onDraw)
-            std::exchange(onDraw, nullptr)();
-        return SystemPlatform::DrawRandom();
-    }
-    float ClockSeconds() override { return 43200.5F; }
-};
+#include <vector>
 
 // Ends the process for real, but a test that does not look for it fails.
 class EndingView : public QtView {
 public:
     bool mayEnd = false;
 
-    [[noreturn]] void EndProgram() override
-    {
-        if (mayEnd)
-            QtView::EndProgram();
-        std::_Exit(EXIT_FAILURE);
-    }
+    [[noreturn]] void EndProgram() override;
 };
 
-class Window : public testing::Test {
+struct RealView {
+    EndingView screen;
+};
+
+// One step after another of a game that is played in the window, as the rows of a table.
+struct Row {
+    const char* why;
+    const char* steps;                      // see Play
+    const char* then;                       // parts of the board, and "focus=Text1:2"
+    std::vector<const char*> messages = {}; // how each begins; none: as they come
+};
+
+// A game without a window gets one. What is played in it by script goes through mouse and keys.
+class Window : public testing::Test, protected RealView, public HeadlessGame {
 protected:
     Window();
+    void SetUp() override;
 
-    WordListFile list{"planet\ngarden\nsimple\nplanet\n"};
-    std::unique_ptr<Board> boardInHeap = std::make_unique<Board>();
-    Board& board = *boardInHeap;
-    SteadyPlatform platform;
-    EndingView view;
-    Game game{board, view, platform, list.Path()};
     MainWindow window{game};
 
-    const QString start = "Option1(1); Command1"; // of a game, to Play
-
-    std::vector<std::string> messages; // "Quorvel2: Word Accepted"
-    std::string answers;               // to the questions, "y" or "n" each; a message gets its OK
-    std::function<void()> whileOpen;   // what happens on the window while a message is open
-    QTimer answerer;
-
-    template <typename T = QWidget> T* Named(const QString& name) const
+    // Controls as a person finds them: by caption and place, which window.txt gives to the names.
+    struct Found {
+        QWidget* widget = nullptr;
+        QRect place;       // in pixels at full scale, in its frame; none where the board says
+        std::string shows; // number, letter or caption, and
+        std::string looks; // what else window.txt has of it
+    };
+    std::map<std::string, Found> controls; // "Command3", "Text1:2"
+    template <typename T = QWidget> T* Named(const std::string& name) const
     {
-        return window.findChild<T*>(name);
+        return dynamic_cast<T*>(controls.at(name).widget);
     }
-    QString Focused() const { return window.focusWidget()->objectName(); }
+    std::string NameOf(const QWidget* widget) const;
+    std::string Focused() const { return NameOf(window.focusWidget()); }
     std::string Spoken(const char* name) const
     {
         return Named(name)->accessibleName().toStdString();
     }
 
     // Presses the mouse at the place of the control, whatever stands there.
-    void Click(const QString& name);
+    void Press(const std::string& name);
 
-    // Steps with semicolons between: "Command1" is a click, "Text6=#1" typing hidden word 1 from
-    // the first box of a row on, "key Right" a key, "you=planet me:50" a change of the board.
-    void Play(const QString& steps);
+    // Words: the name of any control is pressed; "key:Right" is a key, "paste:arden" a pasted text,
+    // "you=planet" or "me:50" a part of the board; and all events of scripts. After each of them
+    // the window has to show the board.
+    void Play(const std::string& words);
+    void Play(const std::vector<Row>& rows);
 
     // Typing into what has the focus: text as an input method gives it, and a letter by its key or,
     // where it has none, decomposed.
     void Compose(const QString& letters) const;
-    void TypeLetter(char32_t letter);
+    void TypeLetter(char32_t letter) const;
 
-    // The level panel, the six game frames and "YOUR GO" on view; the swap row, "+" and the rest of
-    // what arranges letters enabled: 1 is yes, 0 is no and ? is some of them only.
-    std::string State() const;
+    // All that the controls show of the board, and which of them are on view and in play.
+    void ExpectBoardOnView(const std::string& when) const;
+
+    void Click(std::string_view control, std::int16_t index) override;
+    void Type(std::string_view row, int index, const std::string& text) override;
+    void Tick(bool ticked) override;
+
+    // A box is on view: from the answers of the recording view it gets the next.
+    virtual void AnswerBox(QMessageBox& box);
+    std::function<void(QWidget& box)> whileOpen; // what happens while it is
 
 private:
+    void FindControls();
     void Activate();
-    void Type(const QString& row, const QString& text);
-    void AnswerMessage();
 
+    QTimer answerer_;
     QPointer<QMessageBox> met_; // was on view when it was last looked for
 };

@@ -8,7 +8,6 @@
 #include "ui/roster.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 
 namespace {
@@ -141,54 +140,28 @@ TEST(Tables, NoControlLiesOnAnother)
     }
 }
 
-// What the player may not click, each control as often as it has boxes that are disabled. The
-// window and the table of clicks have to be of one mind.
-std::multiset<std::string> Disabled(MainWindow& window, const Board& board)
+TEST_F(Window, ShowsEachFlag)
 {
-    window.ShowBoard();
-    std::multiset<std::string> disabled;
-    for (const Click& click : Clicks()) {
-        for (int box = std::min(click.Boxes, 1); box <= click.Boxes; ++box) {
-            const auto control = QString::fromLatin1(click.Control);
-            const QString boxed = QString("%1(%2)").arg(control).arg(box);
-            const auto* widget = window.findChild<QWidget*>(box > 0 ? boxed : control);
-            if (widget == nullptr) {
-                ADD_FAILURE() << boxed.toStdString() << " is not in the roster";
-                continue;
-            }
-            const auto index = static_cast<std::int16_t>(box);
-            EXPECT_EQ(widget->isVisible(), click.OnView(board, index)) << boxed.toStdString();
-            EXPECT_EQ(widget->isEnabled(), click.Enabled(board, index)) << boxed.toStdString();
-            if (!widget->isEnabled())
-                disabled.emplace(click.Control);
-        }
-    }
-    return disabled;
-}
-
-TEST_F(Window, EachFlagTakesWhatItIsFor)
-{
-    Play(start);
+    Play("Option1:1 Command1");
+    std::vector<std::pair<std::string, bool*>> flags;
     for (const auto& [name, field] : BoundFields()) {
-        if (const auto* frame = std::get_if<Frame Board::*>(&field)) {
-            (board.**frame).Visible = false;
-            Disabled(window, board);
-            (board.**frame).Visible = true;
-        } else if (const auto* row = std::get_if<LetterRow Board::*>(&field)) {
-            (board.**row)(3).Enabled = false;
-            EXPECT_LE(Disabled(window, board).size(), 1U) << name;
-            EXPECT_FALSE(Named(QString("%1(3)").arg(QLatin1String(name.data())))->isEnabled());
-            (board.**row)(3).Enabled = true;
-        }
+        if (const auto* frame = std::get_if<Frame Board::*>(&field))
+            flags.emplace_back(name, &(board.**frame).Visible);
+        else if (const auto* row = std::get_if<LetterRow Board::*>(&field))
+            flags.emplace_back(name, &(board.**row)(3).Enabled);
     }
-    int number = 0;
-    for (Button* button : ArrangingButtons(board)) {
-        ++number;
-        button->Enabled = false;
-        const auto found = Disabled(window, board);
-        EXPECT_EQ(found.size(), 1U)
-            << "flag " << number << " of ArrangingButtons: " << testing::PrintToString(found);
-        button->Enabled = true;
+    for (Button* button : ArrangingButtons(board))
+        flags.emplace_back("a button", &button->Enabled);
+    for (const auto& [name, flag] : flags) {
+        *flag = false;
+        window.ShowBoard();
+        ExpectBoardOnView(name);
+        const auto disabled = std::ranges::count_if(controls, [](const auto& control) {
+            return !control.second.widget->isEnabledTo(control.second.widget->parentWidget());
+        });
+        EXPECT_LE(disabled, 1) << name;
+        EXPECT_EQ(disabled == 0, name.starts_with("Frame")) << name;
+        *flag = true;
     }
 }
 

@@ -117,8 +117,6 @@ void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground, Ed
         inner.BottomAndRight(Blend(Qt::black, ground, 0.3));
         inner.TopAndLeft(Blend(Qt::white, ground, ground.value() > 127 ? 0.75 : 0.2));
     }
-    if (widget.hasFocus())
-        DrawFocusRing(painter, box, line);
 }
 
 void DrawFocusRing(QPainter& painter, const QRect& box, int line)

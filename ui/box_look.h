@@ -29,8 +29,8 @@ struct BoxLook {
 // that shows on any colour where it has the focus. The edge is as wide as its contents margins.
 void DrawBox(QWidget& widget, const BoxLook& look);
 
-// A line around the widget on this ground, and the ring of the focus; for a widget that paints the
-// rest itself, in its paint event.
+// A line around the widget on this ground; for a widget that paints the rest itself, in its paint
+// event.
 void DrawEdge(
     QPainter& painter, const QWidget& widget, const QColor& ground, Edge edge = Edge::Flat);
 

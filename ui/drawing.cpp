@@ -3,7 +3,6 @@
 #include "game/moving_letters.h"
 #include "ui/guess_box.h"
 #include "ui/letter_tile.h"
-#include "ui/places.h"
 #include "ui/roster.h"
 #include "ui/spoken.h"
 #include "ui/used_words_list.h"
@@ -11,7 +10,6 @@
 #include <QAbstractButton>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -20,16 +18,11 @@ QString Shown(const std::string& text)
     return QString::fromUtf8(text);
 }
 
-// Where a guess at a word is typed, and where its letters are shown.
-constexpr std::pair<LetterRow Board::*, LetterRow Board::*> guessedWords[] = {
-    {&Board::Text6, &Board::Word1}, {&Board::Text7, &Board::Word2}, {&Board::Text8, &Board::Word3}};
-
 bool IsKnown(const Board& board, LetterRow Board::* guess, int number)
 {
     const std::string& letter = (board.*guess)(number).Text;
-    const auto* pair = std::find_if(std::begin(guessedWords), std::end(guessedWords),
-        [guess](const auto& rows) { return rows.first == guess; });
-    return !letter.empty() && letter == (board.*pair->second)(number).Text;
+    const auto word = std::ranges::find(GuessedWords(), guess, &GuessedWord::Guess);
+    return !letter.empty() && letter == (board.*word->Shown)(number).Text;
 }
 
 // What a click on the tile does now. After "+" the red letter cannot be clicked and is in play.
@@ -56,7 +49,6 @@ QString FaintLetter(const LetterBox& box, const Board& board)
 struct ShowField {
     const BuiltControl& control;
     const Board& board;
-    const Scale& scale;
 
     void operator()(LetterRow Board::* row) const
     {
@@ -86,10 +78,7 @@ struct ShowField {
     }
     void operator()(Frame Board::* /*frame*/) const { }
     void operator()(Label Board::* /*label*/) const { }
-    void operator()(Panel Board::* panel) const
-    {
-        PlacePanel(*control.Widget, board.*panel, scale);
-    }
+    void operator()(Panel Board::* /*panel*/) const { }
     void operator()(WordList Board::* words) const
     {
         As<UsedWordsList>(control).SetWords((board.*words).Words());
@@ -107,12 +96,12 @@ struct ShowField {
 
 } // namespace
 
-void ShowControls(const Controls& controls, const Board& board, const Scale& scale)
+void ShowControls(const Controls& controls, const Board& board)
 {
     for (const BuiltControl& control : controls) {
         QWidget& widget = *control.Widget;
         if (control.Shows != nullptr)
-            std::visit(ShowField{control, board, scale}, *control.Shows);
+            std::visit(ShowField{control, board}, *control.Shows);
         if (IsEnabled(control, board) && !widget.isEnabledTo(widget.parentWidget()))
             widget.setEnabled(true);
         if (IsOnView(control, board) && widget.isHidden())

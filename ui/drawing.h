@@ -4,11 +4,10 @@
 #include "ui/controls.h"
 
 struct Board;
-struct Scale;
 
 // Shows in every control what the board has, and brings into play what comes into play; what has
 // not changed is left alone.
-void ShowControls(const Controls& controls, const Board& board, const Scale& scale);
+void ShowControls(const Controls& controls, const Board& board);
 
 // Disables and hides what the board has taken out of play. It comes second, so that the focus can
 // go on before it is taken away.

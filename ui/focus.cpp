@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr const char* guessRows[] = {"Text6", "Text7", "Text8"};
-
 // The board's word on every frame around the control, and on the control itself.
 bool IsInPlay(const Controls& controls, const Board& board, const QWidget& widget)
 {
@@ -48,17 +46,17 @@ void JoinRows(const Controls& controls)
             tile->second->InRow().JoinTo(std::prev(tile)->second->InRow());
 
     GuessBox* last = nullptr;
-    const char* above = nullptr;
-    for (const char* row : guessRows) {
+    std::string_view above;
+    for (const GuessedWord& word : GuessedWords()) {
         for (int number = 1; number <= lettersPerWord; ++number) {
-            auto& box = Find<GuessBox>(controls, row, number);
+            auto& box = Find<GuessBox>(controls, word.Control, number);
             if (last != nullptr)
                 box.JoinTo(*last, number > 1);
-            if (above != nullptr)
+            if (!above.empty())
                 box.StandBelow(Find<GuessBox>(controls, above, number));
             last = &box;
         }
-        above = row;
+        above = word.Control;
     }
 }
 
@@ -100,11 +98,10 @@ bool FocusStaysInPlay(const Controls& controls, const Board& board)
 
 void FocusOnGap(const Controls& controls, const Board& board)
 {
-    const LetterRow* const rows[] = {&board.Text6, &board.Text7, &board.Text8};
     for (int box = 1; box <= lettersPerWord; ++box) {
-        for (std::size_t row = 0; row < std::size(rows); ++row) {
-            if ((*rows[row])(box).Text.empty())
-                return Find(controls, guessRows[row], box).setFocus(Qt::TabFocusReason);
+        for (const GuessedWord& word : GuessedWords()) {
+            if ((board.*word.Guess)(box).Text.empty())
+                return Find(controls, word.Control, box).setFocus(Qt::TabFocusReason);
         }
     }
 }

@@ -37,6 +37,8 @@ void GuessBox::paintEvent(QPaintEvent* event)
     QLineEdit::paintEvent(event);
     QPainter painter(this);
     DrawEdge(painter, *this, palette().color(QPalette::Base));
+    if (hasFocus())
+        DrawFocusRing(painter, rect(), contentsMargins().left());
 }
 
 // For the reason of a Tab key the box selects its text, so that typing replaces it.

@@ -47,7 +47,7 @@ MainWindow::MainWindow(Game& game)
     Form_Load(game_);
     ConnectClicks();
     ConnectTyping();
-    PlaceControls(controls_, game_.board, size_.Present());
+    PlaceControls(controls_, size_.Present());
     ShowBoard();
     FocusOnPlay(controls_, game_.board);
     qApp->installEventFilter(&heldEnter_);
@@ -101,7 +101,8 @@ void MainWindow::ShowBoard()
 {
     if (const QString caption = QString::fromUtf8(game_.board.Caption); windowTitle() != caption)
         setWindowTitle(caption);
-    ShowControls(controls_, game_.board, size_.Present());
+    ShowControls(controls_, game_.board);
+    PlacePanels(controls_, game_.board, size_.Present());
     // What is disabled or hidden while it has the focus would hand it to its neighbour.
     if (!FocusStaysInPlay(controls_, game_.board))
         FocusOnPlay(controls_, game_.board);
@@ -131,7 +132,8 @@ QRect MainWindow::RoomForMessages() const
 
 void MainWindow::Rescale()
 {
-    PlaceControls(controls_, game_.board, size_.Present());
+    PlaceControls(controls_, size_.Present());
+    PlacePanels(controls_, game_.board, size_.Present());
     GiveFonts(controls_, size_.Present().PixelsPerTwip);
 }
 

@@ -209,7 +209,7 @@ QStringList NewsSince(const Heard& told, const Heard& now, bool afterGo)
     const bool begins = Begins(told, now);
     if (now.Caption != told.Caption)
         news += Text(now.Caption).simplified();
-    news += NewLetters(told, now);
+    news += NewLetters(begins ? Heard() : told, now);
     if (now.YourScore != told.YourScore || now.MyScore != told.MyScore)
         news += ScoresOf(now);
     if (now.Bonus != told.Bonus)

@@ -10,6 +10,8 @@
 
 namespace {
 
+using PanelField = Panel Board::*;
+
 constexpr int sharedLine = 15; // twips by which the boxes of a row overlap
 
 // Of an edge, in whole pixels.
@@ -35,15 +37,19 @@ QRect PlaceOf(const BuiltControl& control, const Scale& scale)
     return *row.In == '\0' ? place.translated(scale.Origin) : place;
 }
 
+// Its field, where the board says the place of the control.
+const PanelField* PanelOf(const BuiltControl& control)
+{
+    return control.Shows != nullptr ? std::get_if<PanelField>(control.Shows) : nullptr;
+}
+
 } // namespace
 
-void PlaceControls(Controls& controls, const Board& board, const Scale& scale)
+void PlaceControls(Controls& controls, const Scale& scale)
 {
     const int line = LineWidth(scale);
     for (BuiltControl& control : controls) {
-        if (control.Shows != nullptr && std::holds_alternative<Panel Board::*>(*control.Shows))
-            PlacePanel(*control.Widget, board.*std::get<Panel Board::*>(*control.Shows), scale);
-        else
+        if (PanelOf(control) == nullptr)
             control.Widget->setGeometry(PlaceOf(control, scale));
         if (control.Row->Is == Kind::Frame)
             As<TitledFrame>(control).SetLine(line);
@@ -53,10 +59,16 @@ void PlaceControls(Controls& controls, const Board& board, const Scale& scale)
     }
 }
 
-void PlacePanel(QWidget& widget, const Panel& panel, const Scale& scale)
+void PlacePanels(const Controls& controls, const Board& board, const Scale& scale)
 {
     const auto pixels = [&](double twips) { return qRound(twips * scale.PixelsPerTwip); };
-    widget.setGeometry(
-        QRect(pixels(panel.Left), pixels(panel.Top), pixels(panel.Width), pixels(panel.Height))
-            .translated(scale.Origin));
+    for (const BuiltControl& control : controls) {
+        const PanelField* field = PanelOf(control);
+        if (field == nullptr)
+            continue;
+        const Panel& panel = board.**field;
+        const QRect place(
+            pixels(panel.Left), pixels(panel.Top), pixels(panel.Width), pixels(panel.Height));
+        control.Widget->setGeometry(place.translated(scale.Origin));
+    }
 }

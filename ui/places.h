@@ -6,7 +6,6 @@
 #include <QPoint>
 
 struct Board;
-struct Panel;
 
 // How large the board is, and where in the window it begins.
 struct Scale {
@@ -17,7 +16,6 @@ struct Scale {
 };
 
 // Gives every control its place, and its edge as contents margins; its font has to be given anew.
-// Where the level panel stands the board says.
-void PlaceControls(Controls& controls, const Board& board, const Scale& scale);
-
-void PlacePanel(QWidget& widget, const Panel& panel, const Scale& scale);
+// The level panel and its backing are left out: where they stand the board says.
+void PlaceControls(Controls& controls, const Scale& scale);
+void PlacePanels(const Controls& controls, const Board& board, const Scale& scale);
