@@ -43,13 +43,16 @@ void Window::SetUp()
     QCoreApplication::processEvents();
 }
 
-namespace {
-
 std::string TextOf(const QWidget& widget)
 {
+    const auto* list = qobject_cast<const QListWidget*>(&widget);
+    if (list != nullptr && list->count() > 0)
+        return list->item(0)->text().toStdString();
     const QVariant title = widget.property("title");
     return (title.isValid() ? title : widget.property("text")).toString().toStdString();
 }
+
+namespace {
 
 // The one in the frame that stands there, if it shows the text or, as yet, nothing but zero.
 QWidget* FindIn(const QWidget& frame, const QRect& place, const std::string& shows)

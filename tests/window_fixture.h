@@ -40,6 +40,9 @@ struct Row {
     std::vector<const char*> messages = {}; // how each begins; none: as they come
 };
 
+// The letter, number or caption of a control; of a list the first line.
+std::string TextOf(const QWidget& widget);
+
 // A game without a window gets one. What is played in it by script goes through mouse and keys.
 class Window : public testing::Test, protected RealView, public HeadlessGame {
 protected:
