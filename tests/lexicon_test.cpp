@@ -49,10 +49,13 @@ TEST(LexiconFile, ReadsRecords)
         {"UTF-8 of one to four bytes", "aé\n€😀", {"aé", "€😀"}},
         {"Windows-1252 when it is no UTF-8", "b\xFC\x63her\n\x80\x9F", {"bücher", "€Ÿ"}},
         {"as a whole, so that UTF-8 beside it goes wrong", "é\n\xFC", {"Ã©", "ü"}},
+        {"at any place", "abcdefgh,abcdef\xFC", {"abcdefgh", "abcdefü"}},
         {"a letter of UTF-8 cut short", "\n\xC3", {"", "Ã"}},
+        {"by a line end", "\xC3\n", {"Ã"}},
         {"a letter longer than it need be", "\xC0\xAF", {"À¯"}},
         {"a surrogate", "\xED\xA0\x80", {"í\u00A0€"}},
         {"beyond the last letter", "\xF4\xBF\xBF\xBF", {"ô¿¿¿"}},
+        {"five bytes for a letter", "\xF8\x88\x80\x80\x80", {"øˆ€€€"}},
         {"a byte order mark in front of Windows-1252", "\xEF\xBB\xBF\xFC", {"ü"}},
     };
     for (const RecordCase& row : cases)
@@ -154,8 +157,8 @@ TEST(Passes, FindReadsNoFurtherThanTheWord)
     const WordListFile list("planet\ngarden\nsimple");
     LexiconFile lexicon(list.Path());
     lexicon.Open();
-    EXPECT_TRUE(FindWord(lexicon, "garden"));
-    EXPECT_EQ(lexicon.ReadRecord(), "simple");
+    EXPECT_TRUE(FindWord(lexicon, "planet"));
+    EXPECT_EQ(lexicon.ReadRecord(), "garden");
     lexicon.Open();
     EXPECT_TRUE(FindWord(lexicon, "simple")) << "the last record counts";
     lexicon.Open();

@@ -9,6 +9,7 @@
 #include <random>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -107,31 +108,21 @@ TEST(WordListTool, LetsTheWordsLeaveThatMostLargeGamesFind)
 
 TEST(WordListTool, NamesWhatBreaksTheRules)
 {
+    constexpr const char* strange = "holds a character that cannot be a letter of the game";
     const Words good = {"planet", "garden", "simple", "purple"};
-    const auto with = [&](const std::string& record) {
-        Words words = good;
-        words.push_back(record);
-        return words;
-    };
-    struct Row {
-        Words records;
+    const std::pair<const char*, std::string> rows[]
+        = {{"planet", ""}, {"bücher", ""}, {"bu\u0308che", strange}, {"a*bcde", strange},
+            {"seven77", "has 7 letters and not six"}, {"", "is empty"}};
+    for (const auto& [record, fault] : rows) {
+        Words records = good;
+        records.emplace_back(record);
         Words faults;
-    };
-    for (const Row& row : {
-             Row{good, {}},
-             Row{with("planet"), {}},
-             Row{with("bücher"), {}},
-             Row{with("bu\u0308che"),
-                 {"Record 5, \"bu\u0308che\", holds a character that cannot be a letter of the "
-                  "game."}},
-             Row{with("seven77"), {"Record 5, \"seven77\", has 7 letters and not six."}},
-             Row{with(""), {"Record 5, \"\", is empty."}},
-             Row{with("a*bcde"),
-                 {"Record 5, \"a*bcde\", holds a character that cannot be a letter of the game."}},
-             Row{{"planet", "garden", "simple"},
-                 {"Its records, without the last, have fewer than three first letters."}},
-         })
-        EXPECT_EQ(FindFaults(row.records), row.faults);
+        if (!fault.empty())
+            faults = {std::string("Record 5, \"") + record + "\", " + fault + "."};
+        EXPECT_EQ(FindFaults(records), faults);
+    }
+    EXPECT_EQ(FindFaults({"planet", "garden", "simple"}),
+        Words{"Its records, without the last, have fewer than three first letters."});
     Words many(32764, "planet");
     many.insert(many.end(), {"garden", "simple", "purple"});
     EXPECT_TRUE(FindFaults(many).empty());
