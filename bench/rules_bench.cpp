@@ -6,6 +6,7 @@
 #include "bench/plain_rules.h"
 #include "bench/ratio_table.h"
 #include "game/computer_go.h"
+#include "game/rows.h"
 #include "game/scoring.h"
 #include "game/start_of_game.h"
 #include "headless/headless_game.h"
@@ -181,9 +182,8 @@ bool Agrees(const List& list, const Alphabet& alphabet, std::uint32_t seed)
         Command1_Click(game->game);
         game->board.Check1 = 0;
     }
-    const auto candidates
-        = plain::CollectCandidates(list.latin.Path(), plain::CountWords(list.latin.Path()).first,
-            board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3));
+    const auto candidates = plain::CollectCandidates(
+        list.latin.Path(), plain::CountWords(list.latin.Path()).first, HiddenLetters(board));
     for (int k = 1; k <= board.CandidateCount; ++k) {
         const std::size_t repeated = static_cast<std::size_t>(k - 1) % candidates.size();
         if (board.Candidates(k) != candidates[repeated]

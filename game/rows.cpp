@@ -8,6 +8,11 @@ std::string Spell(const LetterRow& row)
     return word;
 }
 
+std::string HiddenLetters(const Board& board)
+{
+    return board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3);
+}
+
 bool HasEmptyBox(const LetterRow& row)
 {
     for (const LetterBox& box : row)

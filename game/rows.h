@@ -10,6 +10,9 @@
 // The texts of boxes 1 to 6, joined.
 std::string Spell(const LetterRow& row);
 
+// The letters of the game: those of the hidden words.
+std::string HiddenLetters(const Board& board);
+
 bool HasEmptyBox(const LetterRow& row);
 bool HoldsLetters(const LetterRow& row);
 

@@ -84,11 +84,6 @@ void DrawHiddenWords(Game& game, LexiconFile& lexicon, const std::u32string& dra
     throw LexiconError("the word list gives no three words with different first letters");
 }
 
-std::string HiddenLetters(const Board& board)
-{
-    return board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3);
-}
-
 // A short block of words is repeated until the computer has enough entries to look through.
 void FillCandidates(Board& board, LexiconFile& lexicon)
 {

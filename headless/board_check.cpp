@@ -27,7 +27,7 @@ std::string Sorted(std::string letters)
 
 bool LettersAreThoseOfTheHiddenWords(const Board& board)
 {
-    return Sorted(board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3))
+    return Sorted(HiddenLetters(board))
         == Sorted(Spell(board.MyLetters) + Spell(board.Text1) + Spell(board.Text2)
             + Spell(board.SwapLetters) + board.HeldLetter);
 }

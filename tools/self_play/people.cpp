@@ -4,6 +4,7 @@
 //   people WORD_LIST DATA   prints two tables, and writes the shares that levels.gnuplot draws
 #include "game/board.h"
 #include "game/numbers.h"
+#include "game/rows.h"
 #include "headless/headless_game.h"
 #include "headless/spelling.h"
 #include "lexicon/letters.h"
@@ -71,8 +72,7 @@ Trios FindAnswers(const Board& board, const Words& known)
     }
     for (const std::string& word : fitting[2])
         thirds[Sorted(word)].push_back(word);
-    const std::string all
-        = Sorted(board.HiddenWords(1) + board.HiddenWords(2) + board.HiddenWords(3));
+    const std::string all = Sorted(HiddenLetters(board));
     Trios answers;
     for (const std::string& first : fitting[0]) {
         for (const std::string& second : fitting[1]) {
