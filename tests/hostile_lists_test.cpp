@@ -74,7 +74,7 @@ const Change changes[] = {
     {"nothing", [](const Path& list) { remove(list); }, false},
     {"fewer words", [](const Path& list) { Write(list, "planet\n"); }, false},
     {"more words", [](const Path& list) { Write(list, words + words); }, true},
-    {"other words", [](const Path& list) { Write(list, "eaglet\nimpels\nsimple\ngarden\nsimple"); },
+    {"other words", [](const Path& list) { Write(list, "zzzzzz\nxxxxxx\nvvvvvv\nkkkkkk\nzzzzzz"); },
         {}},
     {"a hundred gigabytes", [](const Path& list) { resize_file(list, 100'000'000'000); }, false},
     {"a folder", [](const Path& list) { remove(list), create_directory(list); }, false},
