@@ -3,6 +3,7 @@
 #include "game/board.h"
 #include "ui/roster.h"
 #include "ui/titled_frame.h"
+#include "ui/used_words_list.h"
 
 #include <QWidget>
 
@@ -53,6 +54,8 @@ void PlaceControls(Controls& controls, const Scale& scale)
             control.Widget->setGeometry(PlaceOf(control, scale));
         if (control.Row->Is == Kind::Frame)
             As<TitledFrame>(control).SetLine(line);
+        else if (control.Row->Is == Kind::List)
+            As<UsedWordsList>(control).setLineWidth(line);
         else if (HasDrawnEdge(control.Row->Is))
             control.Widget->setContentsMargins(line, line, line, line);
         control.HasFont = false;

@@ -88,7 +88,7 @@ struct Control {
 constexpr bool HasDrawnEdge(Kind kind)
 {
     return kind == Kind::ShownBox || kind == Kind::LetterTile || kind == Kind::GuessBox
-        || kind == Kind::Button || kind == Kind::List;
+        || kind == Kind::Button;
 }
 
 // All controls, each standing above those before it. A frame comes before what it holds.

@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 bool TitledFrame::event(QEvent* event)
 {
     // A group box takes the keys that would press its check mark; this one has none, and the keys
@@ -26,14 +28,16 @@ void TitledFrame::paintEvent(QPaintEvent* /*event*/)
     const QColor ink = palette().color(foregroundRole());
     const bool named = foregroundRole() != QPalette::WindowText;
     const bool filled = autoFillBackground();
-    const int top = title().isEmpty() || filled ? 0 : metrics.height() / 2;
+    // Of smaller captions too, so that frames side by side begin at one height.
+    const int middle = std::max(8 * line_, metrics.height() / 2);
+    const int top = title().isEmpty() || filled ? 0 : middle;
 
     const QRect box = rect().adjusted(0, top, 0, title().isEmpty() ? 2 * line_ : 0);
     DrawOutline(painter, box, line_, Blend(ink, ground, named ? 0.75 : 0.35));
     if (title().isEmpty())
         return;
-    const QRect caption(
-        8 * line_, filled ? 3 * line_ : 0, metrics.horizontalAdvance(title()), metrics.height());
+    const QRect caption(8 * line_, filled ? 3 * line_ : top - metrics.height() / 2,
+        metrics.horizontalAdvance(title()), metrics.height());
     painter.fillRect(caption.adjusted(-3 * line_, 0, 3 * line_, 0), ground);
     painter.setPen(ink);
     painter.drawText(caption, Qt::AlignLeft | Qt::TextDontClip, title());

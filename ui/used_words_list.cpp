@@ -10,7 +10,7 @@
 UsedWordsList::UsedWordsList(QWidget* parent)
     : QListWidget(parent)
 {
-    setFrameShape(NoFrame);
+    setFrameStyle(Box | Plain);
     // At a scale of 1.5 the words would reach a dot too far, over the edge.
     setViewportMargins(1, 1, 1, 1);
 }
@@ -58,8 +58,7 @@ bool UsedWordsList::event(QEvent* event)
     QPainter painter(this);
     const QColor ground = palette().color(QPalette::Base);
     painter.fillRect(rect(), ground);
-    DrawOutline(painter, rect(), contentsMargins().left(),
-        Blend(palette().color(QPalette::Text), ground, 0.65));
+    DrawOutline(painter, rect(), lineWidth(), Blend(palette().color(QPalette::Text), ground, 0.65));
     return true;
 }
 
@@ -69,5 +68,5 @@ void UsedWordsList::paintEvent(QPaintEvent* event)
     QListWidget::paintEvent(event);
     QPainter painter(viewport());
     if (hasFocus())
-        DrawFocusRing(painter, viewport()->rect(), contentsMargins().left());
+        DrawFocusRing(painter, viewport()->rect(), lineWidth());
 }
