@@ -1,5 +1,7 @@
 #include "ui/letter_tile.h"
 
+#include "ui/spoken.h"
+
 #include <QKeyEvent>
 
 #include <utility>
@@ -15,8 +17,10 @@ LetterTile::LetterTile(QWidget* parent)
 
 void LetterTile::SetLetter(const QString& letter, const QString& faint)
 {
-    if (text() != letter)
+    if (text() != letter) {
+        const Silence silence; // the toolkit takes it for a new name
         setText(letter);
+    }
     if (std::exchange(faint_, faint) != faint)
         update();
 }

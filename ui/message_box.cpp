@@ -29,6 +29,11 @@ public:
         setWindowFlags(
             Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
         setTextFormat(Qt::PlainText);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+        // The readers of its time leave out a text of one or two words; older ones would read the
+        // description after the text.
+        setAccessibleDescription(text);
+#endif
         setWindowModality(Qt::ApplicationModal);
         setDefaultButton(NoIsHarmless(title) ? No : Yes);
         Arrange();

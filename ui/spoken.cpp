@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,6 +18,16 @@ QString WithNumber(const char* words, int number)
 }
 
 } // namespace
+
+Silence::Silence()
+    : usual_(QAccessible::installUpdateHandler([](QAccessibleEvent* /*event*/) { }))
+{
+}
+
+Silence::~Silence()
+{
+    QAccessible::installUpdateHandler(usual_);
+}
 
 void GiveWords(const BuiltControl& control)
 {
@@ -35,6 +47,11 @@ void NameBox(const BuiltControl& control, const QString& text, const QString& fa
                             : u": "_s + text + QString::fromUtf8(control.Row->SpokenWhenFilled);
     if (!faint.isEmpty())
         words += u", "_s + faint + u" is in your hand"_s;
-    if (control.Widget->accessibleName() != words) // a name that is given is told, even the same
-        control.Widget->setAccessibleName(words);
+    if (control.Widget->accessibleName() == words)
+        return; // a name that is given is told, even the same
+    // Where the focus is, a reader would read the whole name again; the news has what is new in it.
+    std::optional<Silence> silence;
+    if (control.Widget->hasFocus())
+        silence.emplace();
+    control.Widget->setAccessibleName(words);
 }
