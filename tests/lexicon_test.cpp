@@ -97,7 +97,7 @@ TEST(Passes, LettersSpellAWord)
 {
     const SpellCase cases[] = {
         {"a letter as often as it is there", "eeexyzplanargdnsim", "exeyez", true},
-        {"a letter once too often", "planetgardensimple", "eeeeat", false},
+        {"a letter once too often", "planetgardensimple", "eeeape", false},
         {"another case is another letter", "planetgardensimple", "Garden", false},
         {"five letters", "planetgardensimple", "plane", false},
         {"only the first six count", "planetgardensimple", "gardenxyz", true},
@@ -165,6 +165,8 @@ TEST(Passes, FindReadsNoFurtherThanTheWord)
     EXPECT_TRUE(FindWord(lexicon, "simple")) << "the last record counts";
     lexicon.Open();
     EXPECT_FALSE(FindWord(lexicon, "Planet"));
+    lexicon.Open();
+    EXPECT_FALSE(FindWord(lexicon, "garde"));
 }
 
 } // namespace
