@@ -21,7 +21,9 @@ QString Shown(const std::string& text)
 bool IsKnown(const Board& board, LetterRow Board::* guess, int number)
 {
     const std::string& letter = (board.*guess)(number).Text;
-    const auto word = std::ranges::find(GuessedWords(), guess, &GuessedWord::Guess);
+    const auto words = GuessedWords();
+    const auto word = std::find_if(
+        words.begin(), words.end(), [guess](const GuessedWord& one) { return one.Guess == guess; });
     return !letter.empty() && letter == (board.*word->Shown)(number).Text;
 }
 
