@@ -30,7 +30,11 @@ std::filesystem::path PlaceOfWordList()
 
 void OpenHowToPlay()
 {
+#ifdef Q_OS_WASM
+    QDesktopServices::openUrl(QUrl(QStringLiteral("how-to-play/index.html")));
+#else
     const QFileInfo page(DataFolder() + QStringLiteral("/how-to-play/index.html"));
     if (page.exists())
         QDesktopServices::openUrl(QUrl::fromLocalFile(page.canonicalFilePath()));
+#endif
 }
