@@ -2,15 +2,20 @@
 "use strict";
 
 const loading = document.getElementById("loading");
+const bar = loading.querySelector("progress");
 const board = document.getElementById("board");
 const fonts = ["LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf", "LiberationSerif-Regular.ttf",
     "LiberationSerif-Bold.ttf"];
 
 function say(text) {
-    board.remove();
     loading.hidden = false;
-    loading.querySelector("progress").remove();
     loading.querySelector("p").textContent = text;
+}
+
+function fail(text) {
+    board.remove();
+    bar.remove();
+    say(text);
 }
 
 function canRun() {
@@ -28,7 +33,6 @@ async function load(name) {
 
 // The bar follows the pieces of the program as they come. The browser compiles them meanwhile.
 async function loadProgram() {
-    const bar = loading.querySelector("progress");
     const count = new TransformStream({
         transform(piece, onward) {
             bar.value += piece.length;
@@ -49,6 +53,8 @@ async function loadFile(name, place) {
 }
 
 async function start() {
+    say("The game is loading.");
+    bar.hidden = false;
     const program = WebAssembly.compileStreaming(loadProgram());
     const files = await Promise.all([loadFile("Lexicon.txt", "/share/quorvel2/Lexicon.txt"),
         ...fonts.map(name => loadFile(`fonts/${name}`, `/share/fonts/${name}`))]);
@@ -76,12 +82,14 @@ async function start() {
             location.replace("ended.html");
             throw stop;
         },
-        onAbort() { say("The game has stopped because of a mistake in it. Load the page to start again."); },
+        onAbort() {
+            fail("The game has stopped because of a mistake in it. Load the page to start again.");
+        },
     });
 }
 
 if (canRun())
-    start().catch(() => say("The game could not be loaded. Load the page to try again."));
+    start().catch(() => fail("The game could not be loaded. Load the page to try again."));
 else
-    say("This browser cannot run the game. It needs WebAssembly and WebGL, which the browsers of"
+    fail("This browser cannot run the game. It needs WebAssembly and WebGL, which the browsers of"
         + " the last years have; WebGL may be switched off.");
