@@ -24,7 +24,7 @@ TEST_F(Window, TakesGuesses)
         {"past a letter that is known", "key:a key:n key:e key:Backspace key:Backspace",
             "guess=pl.n../g...../s..... focus=Text6:3"},
         {"and on", "key:Backspace key:Backspace", "guess=p..n../g...../s..... focus=Text6:2"},
-        {"what is in a box is typed over", "Text6:1 key:q",
+        {"what is in a box is typed over, and taken back", "Text6:1 key:q key:Backspace key:q",
             "guess=q..n../g...../s..... focus=Text6:2"},
         {"and on the second click", "Text6:1 Text6:1 key:p key:End key:x",
             "guess=p..n.x/g...../s..... focus=Text7:1"},

@@ -18,13 +18,13 @@ QString Shown(const std::string& text)
     return QString::fromUtf8(text);
 }
 
-bool IsKnown(const Board& board, LetterRow Board::* guess, int number)
+// The letter of the hidden word that is shown above this box of the guess.
+QString ShownAbove(const Board& board, LetterRow Board::* guess, int number)
 {
-    const std::string& letter = (board.*guess)(number).Text;
     const auto words = GuessedWords();
     const auto word = std::find_if(
         words.begin(), words.end(), [guess](const GuessedWord& one) { return one.Guess == guess; });
-    return !letter.empty() && letter == (board.*word->Shown)(number).Text;
+    return Shown((board.*word->Shown)(number).Text);
 }
 
 // What a click on the tile does now. After "+" the red letter cannot be clicked and is in play.
@@ -60,7 +60,7 @@ struct ShowField {
             auto& guess = As<GuessBox>(control);
             if (guess.text() != text)
                 guess.setText(text);
-            guess.SetKnown(IsKnown(board, row, control.Number));
+            guess.SetShown(ShownAbove(board, row, control.Number));
             return;
         }
         const QString faint = FaintLetter(box, board);

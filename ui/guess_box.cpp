@@ -84,7 +84,7 @@ void GuessBox::Spread(const QString& typed)
 void GuessBox::EraseBefore()
 {
     GuessBox* box = previous_;
-    while (box != nullptr && box->known_)
+    while (box != nullptr && box->IsKnown())
         box = box->previous_;
     if (StepTo(box))
         box->Write("");
@@ -128,11 +128,11 @@ void GuessBox::focusInEvent(QFocusEvent* event)
     QLineEdit::focusInEvent(event);
 }
 
-// A click selects what is in the box, as a step into it does.
+// A click selects what is in the box, as a step into it does. One that pastes has gone on by now.
 void GuessBox::mouseReleaseEvent(QMouseEvent* event)
 {
     QLineEdit::mouseReleaseEvent(event);
     steppedInto_ = false;
-    if (!hasSelectedText())
+    if (hasFocus() && !hasSelectedText())
         selectAll();
 }

@@ -21,8 +21,9 @@ public:
     // Who is told of every text that the player gives the box.
     void OnTyped(std::function<void(const QString&)> told) { told_ = std::move(told); }
 
-    // A letter that is known to be right is passed on the way back, and not erased.
-    void SetKnown(bool known) { known_ = known; }
+    // The letter that the hidden word shows at this place, or "". Where it stands in the box it is
+    // known to be right: it is passed on the way back, and not erased.
+    void SetShown(const QString& letter) { shown_ = letter; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -32,6 +33,7 @@ protected:
 
 private:
     static bool StepTo(GuessBox* box);
+    bool IsKnown() const { return !shown_.isEmpty() && text() == shown_; }
     bool Walk(int key);
     void EraseBefore();
     void Spread(const QString& typed);
@@ -43,8 +45,8 @@ private:
     GuessBox* above_ = nullptr;
     GuessBox* below_ = nullptr;
     std::function<void(const QString&)> told_;
+    QString shown_;
     bool lastInRow_ = true;
-    bool known_ = false;
     bool steppedInto_ = false; // on from a letter that was typed: Backspace is for that letter
     bool erasing_ = false;
 };
