@@ -172,6 +172,8 @@ TEST_F(Window, IsPlayedByKeyboard)
         {"the level in focus comes first", "key:Down", "level:1"},
         {"then the others", "key:Down key:Down", "level:3"},
         {"Enter on the chosen one", "key:Return", "panel:no frames:yes focus=Text1:1"},
+        {"the tick", "key:Backtab key:Backtab key:Enter key:Tab key:Tab",
+            "responses:0 focus=Text1:1"},
         {"a letter in the hand", "you=apartm key:Right key:Enter", "held=p2"},
     });
     EXPECT_EQ(Spoken("Text1:2"), "Your letter 2 of 6, empty, p is in your hand");

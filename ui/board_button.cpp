@@ -1,7 +1,9 @@
 #include "ui/board_button.h"
 
 #include "ui/box_look.h"
+#include "ui/keys.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -31,4 +33,13 @@ void BoardCheck::paintEvent(QPaintEvent* /*event*/)
     style()->drawControl(QStyle::CE_CheckBox, &option, &painter, this);
     if (hasFocus())
         DrawFocusRing(painter, rect(), 1);
+}
+
+// Enter clicks, as it does a button.
+void BoardCheck::keyPressEvent(QKeyEvent* event)
+{
+    if (IsEnter(*event))
+        click();
+    else
+        QCheckBox::keyPressEvent(event);
 }
