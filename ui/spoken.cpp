@@ -49,9 +49,12 @@ void NameBox(const BuiltControl& control, const QString& text, const QString& fa
         words += u", "_s + faint + u" is in your hand"_s;
     if (control.Widget->accessibleName() == words)
         return; // a name that is given is told, even the same
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     // Where the focus is, a reader would read the whole name again; the news has what is new in it.
+    // Older readers do not, and keep the old name until they are told of the new one.
     std::optional<Silence> silence;
     if (control.Widget->hasFocus())
         silence.emplace();
+#endif
     control.Widget->setAccessibleName(words);
 }
