@@ -64,10 +64,20 @@ void WindowSize::FillRoom()
     scale_.Origin = QPoint(qRound(spare.width() / 2), qRound(spare.height() / 2));
 }
 
+// A screen can become another size with the window on it, and not all desktops move the window.
+QSizeF WindowSize::RoomOnScreen()
+{
+    const QScreen& screen = *window_.screen();
+    QObject::disconnect(ofScreen_);
+    ofScreen_ = QObject::connect(
+        &screen, &QScreen::availableGeometryChanged, &window_, [this] { Form_Resize(); });
+    return screen.availableGeometry().size();
+}
+
 // On a screen that the window does not fit on, everything in it becomes smaller by one factor.
 void WindowSize::HoldOneSize()
 {
-    const QSizeF screen = window_.screen()->availableGeometry().size();
+    const QSizeF screen = RoomOnScreen();
     const double scale = std::min(
         {fullScale, screen.width() / outerSize.width(), screen.height() / outerSize.height()});
     scale_ = {scale, {}};

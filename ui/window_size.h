@@ -29,12 +29,14 @@ private:
     bool HasRoomOfItsOwn() const;
     void FillRoom();
     void HoldOneSize();
+    QSizeF RoomOnScreen();
     void ReadSize();
 
     QWidget& window_;
     Board& board_;
     std::function<void()> rescaled_;
     Scale scale_;
+    QMetaObject::Connection ofScreen_; // to the one that the window is on
     QTimer later_;
     int refusals_ = 0; // of the one size, one after another, by a desktop that
     QSize insisted_;   // gives this one
