@@ -14,7 +14,7 @@
 #include <sstream>
 #include <utility>
 
-void EndingView::EndProgram()
+void Window::EndProgram()
 {
     if (mayEnd)
         QtView::EndProgram();
@@ -22,10 +22,10 @@ void EndingView::EndProgram()
 }
 
 Window::Window()
-    : HeadlessGame("", HeadlessPlatform(20), &screen)
+    : HeadlessGame("", HeadlessPlatform(20), this)
 {
     UseList("planet\ngarden\nsimple\nplanet\n");
-    screen.PlayIn(window);
+    PlayIn(window);
     FindControls(); // at full scale, which the window is built at
     QObject::connect(&answerer_, &QTimer::timeout, &answerer_, [this] {
         if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
@@ -71,8 +71,8 @@ QWidget* FindIn(const QWidget& frame, const QRect& place, const std::string& sho
 
 void Window::FindControls()
 {
-    // Name, boxes, frame, left, top, step, width, height, text, looks.
-    const std::regex form("(\\w+)([ \\d]*) in (\\w+) (?:at (\\d+),(\\d+)(?: by (\\d+))? "
+    // Name, boxes, frame, left, top, direction, step, width, height, text, looks.
+    const std::regex form("(\\w+)([ \\d]*) in (\\w+) (?:at (\\d+),(\\d+)(?: (by|down) (\\d+))? "
                           "(\\d+)x(\\d+)|placed by the board)(?:; says \"([^\"]*)\")?; (.*)");
     std::ifstream text(QUORVEL_WINDOW_TEXT);
     for (std::string line; std::getline(text, line);) {
@@ -84,28 +84,30 @@ void Window::FindControls()
         const auto pixels
             = [&part](int k) { return part[k].matched ? std::stoi(part[k]) / 15 : 0; };
         const QWidget* frame = part[3] == "window" ? &window : controls.at(part[3]).widget;
-        std::istringstream numbers(part[2]);
-        std::vector<int> boxes(std::istream_iterator<int>(numbers), {});
-        const bool single = boxes.empty();
-        if (single)
-            boxes.push_back(0);
-        for (std::size_t k = 0; k < boxes.size(); ++k) {
-            const int step = (boxes[k] - boxes[0]) * pixels(6);
-            const QRect place(pixels(4) + step, pixels(5), pixels(7), pixels(8));
-            const std::string shows = boxes.size() > 1 ? part[9].str().substr(k, 1) : part[9].str();
-            const std::string numbered
-                = std::regex_replace(part[10].str(), std::regex("#"), std::to_string(boxes[k]));
-            controls[part[1].str() + (single ? "" : ":" + std::to_string(boxes[k]))]
-                = {FindIn(*frame, place, shows), place, shows,
-                    std::regex_replace(numbered, std::regex("@"), shows)};
+        const QPoint step = part[6] == "down" ? QPoint(0, pixels(7)) : QPoint(pixels(7), 0);
+        std::istringstream numbers(part[2].length() > 0 ? part[2].str() : "-1");
+        int first = 0;
+        std::string letters = part[10]; // of one box after the other
+        for (int box = 0; numbers >> box; letters.erase(0, part[6] == "by" ? 1 : 0)) {
+            first = first == 0 ? box : first;
+            const QRect place(pixels(4), pixels(5), pixels(8), pixels(9));
+            const std::string number = std::to_string(box);
+            const std::string shows = std::regex_replace(
+                part[6] == "by" ? letters.substr(0, 1) : letters, std::regex("#"), number);
+            const std::string looks
+                = std::regex_replace(std::regex_replace(part[11].str(), std::regex("#"), number),
+                    std::regex("@"), shows);
+            const QRect there = place.translated(step * (box - first));
+            controls[part[1].str() + (box < 0 ? "" : ":" + number)]
+                = {FindIn(*frame, there, shows), there, shows, looks};
         }
     }
 }
 
-std::string Window::NameOf(const QWidget* widget) const
+std::string Window::Focused() const
 {
     for (const auto& [name, control] : controls) {
-        if (control.widget == widget)
+        if (control.widget == window.focusWidget())
             return name;
     }
     return "no control";
@@ -265,6 +267,14 @@ void Window::AnswerBox(QMessageBox& box)
         return;
     const bool asks = box.button(QMessageBox::Ok) == nullptr;
     EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+    corners_.insert({box.geometry().right(), box.geometry().bottom()});
+    EXPECT_EQ(corners_.size(), 1U) << "messages come up at one place, and cover nothing in play";
+    const std::regex inPlay("(Text[129]|MyLetters|SwapLetters|Word|YourScore|MyScore|Label5).*");
+    for (const auto& [name, control] : controls) {
+        const QRect place(control.widget->mapToGlobal(QPoint()), control.widget->size());
+        EXPECT_FALSE(std::regex_match(name, inPlay) && place.intersects(box.frameGeometry()))
+            << name;
+    }
     view.calls.push_back((box.windowTitle() + (asks ? "? " : ": ") + box.text()).toStdString());
     if (whileOpen)
         whileOpen(box);

@@ -18,19 +18,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <vector>
-
-// Ends the process for real, but a test that does not look for it fails.
-class EndingView : public QtView {
-public:
-    bool mayEnd = false;
-
-    [[noreturn]] void EndProgram() override;
-};
-
-struct RealView {
-    EndingView screen;
-};
 
 // One step after another of a game that is played in the window, as the rows of a table.
 struct Row {
@@ -44,10 +33,14 @@ struct Row {
 std::string TextOf(const QWidget& widget);
 
 // A game without a window gets one. What is played in it by script goes through mouse and keys.
-class Window : public testing::Test, protected RealView, public HeadlessGame {
+class Window : public testing::Test, protected QtView, public HeadlessGame {
 protected:
     Window();
     void SetUp() override;
+
+    // Ends the process for real, but a test that does not look for it fails.
+    [[noreturn]] void EndProgram() override;
+    bool mayEnd = false;
 
     MainWindow window{game};
 
@@ -63,8 +56,7 @@ protected:
     {
         return dynamic_cast<T*>(controls.at(name).widget);
     }
-    std::string NameOf(const QWidget* widget) const;
-    std::string Focused() const { return NameOf(window.focusWidget()); }
+    std::string Focused() const;
     std::string Spoken(const char* name) const
     {
         return Named(name)->accessibleName().toStdString();
@@ -100,5 +92,6 @@ private:
     void Activate();
 
     QTimer answerer_;
-    QPointer<QMessageBox> met_; // was on view when it was last looked for
+    std::set<std::pair<int, int>> corners_; // lower right, of the boxes
+    QPointer<QMessageBox> met_;             // was on view when it was last looked for
 };

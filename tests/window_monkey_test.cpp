@@ -27,8 +27,8 @@ protected:
         window.activateWindow();
         const int kind = Number(100);
         if (kind < 65) {
-            const QWidget& button = *buttons_[Number(buttons_.size())];
-            PressMouse(button.mapTo(&window, button.rect().center()));
+            const auto& [name, control] = *std::next(controls.begin(), Number(controls.size()));
+            PressMouse(control.widget->mapTo(&window, control.widget->rect().center()));
         } else if (kind < 75) {
             PressMouse({Number(window.width()), Number(window.height())});
         } else if (kind < 96 && window.focusWidget() != nullptr) {
@@ -52,7 +52,7 @@ protected:
     // The window manager closes the window, in the middle of whatever is up.
     void CloseWindow()
     {
-        screen.mayEnd = closing_ = true;
+        mayEnd = closing_ = true;
         QTimer::singleShot(Number(4), &window, [this] { window.close(); });
         while (true)
             Act();
@@ -90,7 +90,6 @@ private:
     }
 
     std::minstd_rand chance_;
-    QList<QAbstractButton*> buttons_ = window.findChildren<QAbstractButton*>();
     bool closing_ = false;
 };
 
