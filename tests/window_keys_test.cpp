@@ -28,11 +28,13 @@ TEST_F(Window, TakesGuesses)
         {"a word is pasted", "key:Right paste:arden", "guess=p..n.x/garden/s..... focus=Text8:1"},
         {"what is left stays in the last box", "key:End key:Left paste:lest",
             "guess=p..n.x/garden/s...l(est) focus=Text8:6"},
+        {"a box that a key goes to is typed over", "key:Home key:t",
+            "guess=p..n.x/garden/t...l(est) focus=Text8:2"},
         {"rows and columns", "key:Home key:Up key:Up key:Right", "focus=Text6:2"},
         {"from row to row, both ways", "key:End key:Right key:Down key:Left key:Up",
             "focus=Text6:6"},
         {"a letter is deleted where it stands", "Text6:6 key:Delete",
-            "guess=p..n../garden/s...l(est) focus=Text6:6"},
+            "guess=p..n../garden/t...l(est) focus=Text6:6"},
     });
     Compose("e\u0301"); // one letter that two keys compose
     EXPECT_EQ(board.Text6(6).Text, "\u00e9");
@@ -160,9 +162,9 @@ TEST_F(Window, IsPlayedByKeyboard)
     for (QKeyEvent* event : {&held, &released, &again}) {
         event->setTimestamp(7);
         QCoreApplication::sendEvent(window.focusWidget(), event);
+        EXPECT_EQ(board.HeldIndex, 2);
     }
     Play({
-        {"and it still is there", "", "held=p2"},
         {"put down elsewhere", "key:Right key:Left key:Left key:Left key:Space",
             "held= you=paartm"},
     });

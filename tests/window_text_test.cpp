@@ -133,6 +133,24 @@ TEST_F(Window, LooksDifferentInEveryState)
     }
 }
 
+// The line inside the edge tells whether a click does anything: a letter is bought once.
+TEST_F(Window, RaisesTheEdgeOfWhatCanBeClicked)
+{
+    Play("Option1:1 Command1 up=gar... shown=p..n../g...../s.....");
+    window.focusWidget()->clearFocus();
+    for (const auto& [name, control] : controls) {
+        if (!std::regex_match(name, std::regex("(Text[12]|Swap|Word|My|Command1).*")))
+            continue;
+        const QImage image = Drawn(*control.widget);
+        const bool raised = image.pixel(3, image.height() - 2) != image.pixel(3, 3);
+        const bool empty = TextOf(*control.widget).empty();
+        const bool works = name[0] == 'W' ? empty
+            : name.starts_with("Text2")   ? !empty
+                                          : name[0] != 'M';
+        EXPECT_EQ(raised, works) << name;
+    }
+}
+
 // The swap row and the computer's row have pale grounds alike: without hues their edges tell them.
 TEST_F(Window, RowsAreToldApartWithoutTheirHues)
 {
