@@ -5,8 +5,11 @@
 #include "ui/board_style.h"
 
 #include <QClipboard>
+#include <QLabel>
+#include <QLayout>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QWindow>
 
 #include <fstream>
@@ -160,6 +163,10 @@ void Window::Play(const std::vector<Row>& rows)
         view.calls.clear();
         Play(row.steps);
         EXPECT_TRUE(view.answers.empty()) << row.why;
+        QCoreApplication::processEvents();
+        const QImage seen = window.screen()->grabWindow(window.winId()).toImage();
+        const QImage drawn = window.grab().toImage().convertToFormat(seen.format());
+        EXPECT_TRUE(window.devicePixelRatioF() > 1 || seen == drawn) << "not painted: " << row.why;
         const auto parts = PartsOf(board);
         std::map<std::string, std::string> now(parts.begin(), parts.end());
         now["focus="] = Focused();
@@ -258,6 +265,7 @@ void Window::TypeLetter(char32_t letter) const
 
 void Window::Compose(const QString& letters) const
 {
+    EXPECT_TRUE(window.focusWidget()->testAttribute(Qt::WA_InputMethodEnabled)) << Focused();
     QInputMethodEvent composed;
     composed.setCommitString(letters);
     QCoreApplication::sendEvent(window.focusWidget(), &composed);
@@ -272,6 +280,8 @@ void Window::AnswerBox(QMessageBox& box)
     EXPECT_TRUE(box.isVisible()) << "a press that began before the box";
     const bool asks = box.button(QMessageBox::Ok) == nullptr;
     EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+    const auto* text = box.findChild<QLabel*>("qt_msgbox_label");
+    EXPECT_LT(text->x() + text->contentsRect().left(), 24) << "no room for an icon";
     corners_.insert({box.geometry().right(), box.geometry().bottom()});
     EXPECT_EQ(corners_.size(), 1U) << "messages come up at one place, and cover nothing in play";
     const std::regex inPlay("(Text[129]|MyLetters|SwapLetters|Word|YourScore|MyScore|Label5).*");
@@ -311,6 +321,7 @@ int main(int argc, char* argv[])
     QFont desktop;
     desktop.setPixelSize(14);
     QApplication::setFont(desktop);
+    QApplication::setCursorFlashTime(0); // what is on the screen does not change by itself
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
