@@ -57,6 +57,11 @@ protected:
         return dynamic_cast<T*>(controls.at(name).widget);
     }
     std::string Focused() const;
+    void DropFocus() const
+    {
+        if (QWidget* focused = window.focusWidget())
+            focused->clearFocus();
+    }
     std::string Spoken(const char* name) const
     {
         return Named(name)->accessibleName().toStdString();

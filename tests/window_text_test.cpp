@@ -71,7 +71,7 @@ TEST_F(Window, IsAsItsTextSays)
     QApplication::setPalette(desktop);
     Play("Option1:1 Command1 you=planet swap=simple me=garnet up=garden used=simple you:120 me:50 "
          "panel:yes shown=marten/lineup/feeder guess=abcdef/ghijkl/mnopqr");
-    window.focusWidget()->clearFocus();
+    DropFocus();
     std::size_t widgets = 0; // of the window and its frames
     for (const auto& [name, control] : controls) {
         EXPECT_EQ(TextOf(*control.widget), control.shows) << name;
@@ -103,18 +103,18 @@ TEST_F(Window, LooksDifferentInEveryState)
     for (const auto& [change, names] : changes) {
         Play("you=planet held= swap=simple up=garden me=garnet off= you:120 me:50 used=simple "
              "responses:1 level:1 shown=marten/lineup/feeder guess=abcdef/ghijkl/mnopqr");
-        window.focusWidget()->clearFocus();
+        DropFocus();
         std::map<std::string, QImage> before;
         for (const auto& [name, control] : controls)
             before[name] = Drawn(*control.widget);
         Play(change);
-        window.focusWidget()->clearFocus();
+        DropFocus();
         for (const auto& [name, image] : before)
             EXPECT_EQ(Drawn(*Named(name)) != image, std::regex_match(name, std::regex(names)))
                 << name << " at " << change;
     }
     Play("panel:yes off=");
-    window.focusWidget()->clearFocus();
+    DropFocus();
     for (const auto& [name, control] : controls) {
         QWidget& widget = *control.widget;
         const QImage plain = Drawn(widget);
@@ -137,7 +137,7 @@ TEST_F(Window, LooksDifferentInEveryState)
 TEST_F(Window, RaisesTheEdgeOfWhatCanBeClicked)
 {
     Play("Option1:1 Command1 up=gar... shown=p..n../g...../s.....");
-    window.focusWidget()->clearFocus();
+    DropFocus();
     for (const auto& [name, control] : controls) {
         if (!std::regex_match(name, std::regex("(Text[12]|Swap|Word|My|Command1).*")))
             continue;
