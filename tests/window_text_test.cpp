@@ -149,6 +149,9 @@ TEST_F(Window, RaisesTheEdgeOfWhatCanBeClicked)
                                           : name[0] != 'M';
         EXPECT_EQ(raised, works) << name;
     }
+    const QRgb yellow = Drawn(*Named("Text1:1")).pixel(3, 3);
+    Play("you=PLANET");
+    EXPECT_NE(Drawn(*Named("Text1:1")).pixel(3, 3), yellow) << "out of play the ground fades";
 }
 
 // The swap row and the computer's row have pale grounds alike: without hues their edges tell them.
