@@ -87,7 +87,7 @@ void Window::FindControls()
             continue;
         }
         const auto pixels
-            = [&part](int k) { return part[k].matched ? std::stoi(part[k]) / 15 : 0; };
+            = [&part](std::size_t k) { return part[k].matched ? std::stoi(part[k]) / 15 : 0; };
         const QWidget* frame = part[3] == "window" ? &window : controls.at(part[3]).widget;
         const QPoint step = part[6] == "down" ? QPoint(0, pixels(7)) : QPoint(pixels(7), 0);
         std::istringstream numbers(part[2].length() > 0 ? part[2].str() : "-1");
@@ -205,7 +205,8 @@ struct ExpectField {
         const auto& list = dynamic_cast<const QListWidget&>(widget);
         EXPECT_EQ(list.count(), (board.*words).ListCount());
         for (int k = 0; k < list.count(); ++k)
-            EXPECT_EQ(list.item(k)->text().toStdString(), (board.*words).Words().at(k));
+            EXPECT_EQ(list.item(k)->text().toStdString(),
+                (board.*words).Words().at(static_cast<std::size_t>(k)));
     }
     void operator()(std::int16_t Board::* number) const
     {
