@@ -97,11 +97,11 @@ TEST(HostileLists, ChangeBeforeTheStartOrBetweenItsPasses)
 }
 
 // Different words, so many of which begin with "b", as many with "c" and the rest with "a".
-std::string LopsidedList(int count, int others, int blanks)
+std::string LopsidedList(int count, int others, std::size_t blanks)
 {
     std::string bytes;
     for (int k = 0; k < count; ++k) {
-        bytes += std::string(static_cast<std::size_t>(blanks), ' ');
+        bytes.append(blanks, ' ');
         bytes += k < others ? 'b' : k < 2 * others ? 'c' : 'a';
         bytes += std::to_string(100'000 + k).substr(1) + "\n";
     }
@@ -119,8 +119,7 @@ TEST(HostileLists, DrawingEndsAfterSoManyBytes)
     };
     const Row rows[] = {
         {"one try in a thousand", LopsidedList(3000, 39, 0), true, 60'000},
-        {"one in 180 million", LopsidedList(32'767, 1, 0), false, 9000},
-        {"the same in the largest file", LopsidedList(32'767, 1, 115), false, 600},
+        {"one in 180 million, in the largest file", LopsidedList(32'767, 1, 115), false, 600},
     };
     for (const Row& row : rows) {
         const WordListFile list(row.bytes);

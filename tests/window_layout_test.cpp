@@ -75,8 +75,6 @@ TEST_F(Layout, HoldsItsSize)
         window.resize(size);
         QCoreApplication::processEvents();
         EXPECT_EQ(window.frameSize(), QSize(664, 499));
-        EXPECT_EQ(board.WindowWidth, 664 * 15);
-        EXPECT_EQ(board.WindowHeight, 499 * 15);
         EXPECT_EQ(Named("Frame1")->geometry(), QRect(panel, QSize(137, 241)));
         EXPECT_EQ(Named("Command2")->geometry(), QRect(286, 132, 153, 265));
     }

@@ -19,15 +19,13 @@ TEST_F(Window, PlaysFromGameToGame)
             "panel:yes frames:no go:yes level:0"},
         {"a game", "Option1:1 Command1 you=planet swap=simple",
             "panel:no frames:yes go:yes responses:1"},
-        {"nothing in the hand", "SwapLetters:3", "swap=simple off="},
-        {"a swap", "Text1:2 SwapLetters:3", "you=pmanet swap=SILPLE off="},
-        {"+", "Command16", "swap=SILPLE off=Command16"},
-        {"a turn with the red letter", "Command5", "you=spmane swap=TILPLE"},
-        {"laying out", "Command9", "you=------ up=spmane off=arranging"},
-        {"five letters", "Text2:6 Text2:5 Text2:4 Text2:3 Text2:2 Text2:2",
+        {"a swap, and none with an empty hand", "SwapLetters:3 Text1:2 SwapLetters:3",
+            "you=pmanet swap=SILPLE"},
+        {"a turn with the red letter", "Command16 Command5",
+            "you=spmane swap=TILPLE off=Command16"},
+        {"laying out", "Command9 Text2:6 Text2:5 Text2:4 Text2:3 Text2:2 Text2:2",
             "you=ENAMP- up=s..... off=arranging"},
-        {"the sixth", "Text2:1", "you=enamps up=...... off="},
-        {"a word, with responses", "Check1=1 you=planet Command3",
+        {"a word, with responses", "Text2:1 Check1=1 you=planet Command3",
             "go:yes you:50 bonus:_10 used=planet off=",
             {"Quorvel2: Word Accepted", "Quorvel2: Letters Jumbled", "Computer Swap: I have"}},
         {"a letter is bought", "Check1=0 you:100 Word1:1 Word1:2", "you:0 responses:0"},
@@ -44,21 +42,12 @@ TEST_F(Window, PlaysFromGameToGame)
                 "Quorvel2: I now know all three words But You Still WIN!!",
                 "New Game? Play Again"}},
         {"another level, by Enter", "Option1:4 key:Return", "panel:no level:4"},
-        {"not given in", "Command16 no Command10", "off=Command16",
-            {"Do I win?? Do You Resign? and Make Me The Winner!!"}},
-        {"given in", "yes yes Command10", "panel:no off=Command16",
-            {"Do I win?? ", "Quorvel2: The Words Were: ", "New Game? Play Again?",
+        {"not given in, then given in", "Command16 no Command10 yes yes Command10",
+            "panel:no off=Command16",
+            {"Do I win?? ", "Do I win?? Do You Resign? and Make Me The Winner!!",
+                "Quorvel2: The Words Were: ", "New Game? Play Again?",
                 "Quorvel2: Letters Jumbled"}},
     });
-}
-
-// The letters of the word as boxes of a row.
-std::string InBoxes(const std::string& word)
-{
-    std::string row;
-    for (int k = 1; k <= 6; ++k)
-        row += "(" + std::string(LetterOf(word, k)) + ")";
-    return row;
 }
 
 TEST_F(Window, PlaysInAnyAlphabet)
@@ -71,18 +60,16 @@ TEST_F(Window, PlaysInAnyAlphabet)
         // A word that is laid out by its letters, and submitted.
         const std::string word = board.HiddenWords(1);
         const std::string second(LetterOf(word, 2));
-        Play("you=" + InBoxes(word) + " Command6 Command4");
+        for (int k = 1; k <= 6; ++k)
+            board.Text1(k).Text = LetterOf(word, k);
+        Play("Command6 Command4");
         Named("Command3")->setFocus();
         for (const uint letter : QString::fromStdString(word).toUcs4())
             TypeLetter(letter);
         EXPECT_EQ(Spell(board.Text1), word);
         EXPECT_EQ(Spoken("Text1:2"), "Your letter 2 of 6: " + second);
-        Play({
-            {"the word", "key:Return", "you:50", {"Quorvel2: Word Accepted"}},
-            {"a letter that is bought", "you:100 Word1:2", "you:0"},
-            {"the words that are guessed", "yes right Command7", "panel:yes",
-                {"Quorvel2: CORRECT!! Well Done", "Quorvel2: ", "New Game? "}},
-        });
+        Play("key:Return you:100 Word1:2 yes right Command7");
+        EXPECT_EQ(view.calls.end()[-3], "Quorvel2: CORRECT!! Well Done") << word;
         EXPECT_EQ(Named<QAbstractButton>("Word1:2")->text().toStdString(), second);
     }
 }
@@ -181,7 +168,6 @@ TEST(Program, IsPutTogether)
         most = std::max(most, other.DrawRandom());
     EXPECT_GT(most, 0.9);
     EXPECT_LT(most, 1);
-    EXPECT_GE(other.ClockSeconds(), 0);
     EXPECT_LT(other.ClockSeconds(), 86400);
 }
 

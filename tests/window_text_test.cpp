@@ -72,7 +72,7 @@ TEST_F(Window, IsAsItsTextSays)
     Play("Option1:1 Command1 you=planet swap=simple me=garnet up=garden used=simple you:120 me:50 "
          "panel:yes shown=marten/lineup/feeder guess=abcdef/ghijkl/mnopqr");
     DropFocus();
-    std::size_t widgets = 0; // of the window and its frames
+    qsizetype widgets = 0; // of the window and its frames
     for (const auto& [name, control] : controls) {
         EXPECT_EQ(TextOf(*control.widget), control.shows) << name;
         EXPECT_EQ(LooksOf(*control.widget).toStdString(), control.looks) << name;
@@ -80,7 +80,7 @@ TEST_F(Window, IsAsItsTextSays)
             widgets += control.widget->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size();
     }
     widgets += window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size();
-    EXPECT_EQ(widgets, controls.size() + 1) << "these, and what speaks to a screen reader";
+    EXPECT_EQ(widgets, std::ssize(controls) + 1) << "these, and what speaks to a screen reader";
     QApplication::setPalette(QPalette());
 }
 

@@ -6,16 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 #include <string>
 
-TEST(WordList, HoldsWordsOfSixSmallLettersEachOnce)
+TEST(WordList, BreaksNoRule)
 {
-    const Words words = ReadRecords(QUORVEL_WORD_LIST);
-    EXPECT_EQ(FindFaults(words), Words{});
-    EXPECT_EQ(std::set(words.begin(), words.end()).size(), words.size());
-    for (const std::string& word : words)
-        EXPECT_EQ(word.find_first_not_of("abcdefghijklmnopqrstuvwxyz"), std::string::npos) << word;
+    EXPECT_EQ(FindFaults(ReadRecords(QUORVEL_WORD_LIST)), Words{});
 }
 
 // A change of the list that moves the largest game needs a new figure here and in

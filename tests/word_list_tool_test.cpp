@@ -1,6 +1,6 @@
 // The check of a word list: its rules, and the search for the largest games.
 #include "lexicon/passes.h"
-#include "tools/word_list/fit_list.h"
+#include "tools/word_list/largest_game.h"
 #include "tools/word_list/list_rules.h"
 
 #include <gtest/gtest.h>
@@ -80,29 +80,6 @@ TEST(WordListTool, FindsEveryLargeGame)
             EXPECT_EQ(found, expected) << alphabet << " above " << bar;
         }
         EXPECT_EQ(FindLargestGame(words)->candidates.size(), most) << alphabet;
-    }
-}
-
-// Words of five stocks of letters, so that the games are the choices of three of these.
-TEST(WordListTool, LetsTheWordsLeaveThatMostLargeGamesFind)
-{
-    const KnownWords all = {{"mnopqr", 20}, {"nmopqr", 10}, {"omnpqr", 10}, {"stuvwx", 10},
-        {"tsuvwx", 20}, {"utsvwx", 10}, {"abcdef", 20}, {"bacdef", 20}, {"ghijkl", 10},
-        {"hgijkl", 10}, {"yyyzzz", 50}};
-    struct Row {
-        std::size_t mostCandidates;
-        Words leave;
-    };
-    for (const Row& row : {
-             Row{8, {}},
-             Row{7, {"mnopqr"}}, // two games find it, and one finds "abcdef"
-             Row{6, {"yyyzzz", "abcdef", "mnopqr", "tsuvwx"}},
-             Row{5, {"yyyzzz", "mnopqr", "abcdef", "tsuvwx", "ghijkl"}},
-         }) {
-        KnownWords list = all;
-        EXPECT_EQ(WordsOf(LeaveWords(list, row.mostCandidates)), row.leave);
-        EXPECT_EQ(list.size() + row.leave.size(), all.size());
-        EXPECT_LE(FindLargestGame(WordsOf(list))->candidates.size(), row.mostCandidates);
     }
 }
 

@@ -31,7 +31,6 @@ constexpr Lettering Hobbit(double points, bool bold)
 constexpr BoxNumbers Six{1, 6};
 constexpr const char* SwapHint = "Click a yellow box, then a lilac box to swap.";
 constexpr const char* GuessHint = "Enter your guess in these boxes.";
-constexpr const char* SpokenSwapHelp = "Exchanges this letter with the one in your hand";
 
 // A row of six boxes to guess in.
 constexpr Control GuessRow(const char* name, int top, const char* spoken)
@@ -152,7 +151,7 @@ constexpr Control roster[] = {
         .Text = Red,
         .ToolTip = SwapHint,
         .Spoken = "Swap letter %1 of 6, red",
-        .SpokenHelp = SpokenSwapHelp},
+        .SpokenHelp = "Exchanges this letter with the one in your hand"},
     PlainButton("Command4", "Frame4", {120, 1800, 375, 315}, "<", {Face::ArialBlack, 14.25},
         "Moves each of your letters one box to the left", "Turn left"),
     PlainButton("Command6", "Frame4", {480, 1800, 2175, 315}, "Mix Letters", Times(9.75),
@@ -235,8 +234,7 @@ constexpr Control roster[] = {
         .Font = Times(18),
         .Background = Lilac,
         .ToolTip = SwapHint,
-        .Spoken = "Swap letter %1 of 6",
-        .SpokenHelp = SpokenSwapHelp},
+        .Spoken = "Swap letter %1 of 6"},
 
     // The hidden words.
     GameFrame(

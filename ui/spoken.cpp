@@ -51,7 +51,7 @@ void NameBox(const BuiltControl& control, const QString& text, const QString& fa
         return; // a name that is given is told, even the same
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     // Where the focus is, a reader would read the whole name again; the news has what is new in it.
-    // Older readers do not, and keep the old name until they are told of the new one.
+    // Older ones do not, and a client that keeps names has to be told of the new one.
     std::optional<Silence> silence;
     if (control.Widget->hasFocus())
         silence.emplace();
