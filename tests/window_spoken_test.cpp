@@ -20,8 +20,9 @@ TEST_F(Window, SpeaksOfEveryControl)
     for (const auto& [name, control] : controls) {
         const QString help = control.widget->accessibleDescription();
         const bool first = name.find(':') == std::string::npos || name.ends_with(":1");
-        if (control.widget->focusPolicy() != Qt::NoFocus && !name.starts_with("Word"))
+        if (control.widget->focusPolicy() != Qt::NoFocus && !name.starts_with("Word")) {
             EXPECT_EQ(help.trimmed().isEmpty(), !first) << name;
+        }
         EXPECT_FALSE(!first && help.isEmpty() && !control.widget->toolTip().isEmpty()) << name;
     }
 }

@@ -144,9 +144,10 @@ TEST_F(Window, RaisesTheEdgeOfWhatCanBeClicked)
         const QImage image = Drawn(*control.widget);
         const bool raised = image.pixel(3, image.height() - 2) != image.pixel(3, 3);
         const bool empty = TextOf(*control.widget).empty();
+        // Letters that wait above the yellow row hold it.
         const bool works = name[0] == 'W' ? empty
             : name.starts_with("Text2")   ? !empty
-                                          : name[0] != 'M';
+                                          : name[0] != 'M' && !name.starts_with("Text1");
         EXPECT_EQ(raised, works) << name;
     }
     const QRgb yellow = Drawn(*Named("Text1:1")).pixel(3, 3);

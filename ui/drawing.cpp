@@ -1,6 +1,7 @@
 #include "ui/drawing.h"
 
 #include "game/moving_letters.h"
+#include "game/rows.h"
 #include "ui/guess_box.h"
 #include "ui/letter_tile.h"
 #include "ui/roster.h"
@@ -27,11 +28,25 @@ QString ShownAbove(const Board& board, LetterRow Board::* guess, int number)
     return Shown((board.*word->Shown)(number).Text);
 }
 
+bool WorksNow(Works works, const Board& board, const QString& text)
+{
+    switch (works) {
+    case Works::Always:
+        break;
+    case Works::WhenFilled:
+        return !text.isEmpty();
+    case Works::WhenEmpty:
+        return text.isEmpty();
+    case Works::WhenNoneWaitsAbove:
+        return !HoldsLetters(board.Text2);
+    }
+    return true;
+}
+
 // What a click on the tile does now. After "+" the red letter cannot be clicked and is in play.
 void ShowEdge(const BuiltControl& control, const Board& board, const QString& text)
 {
-    const Works works = control.Row->ClickWorks;
-    const bool now = works == Works::Always || (works == Works::WhenEmpty) == text.isEmpty();
+    const bool now = WorksNow(control.Row->ClickWorks, board, text);
     const bool enabled = IsEnabled(control, board);
     const bool red = control.Shows == FindField("SwapLetters") && control.Number == 1;
     As<LetterTile>(control).SetEdge(!enabled ? Edge::OutOfPlay

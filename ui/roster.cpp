@@ -139,6 +139,7 @@ constexpr Control roster[] = {
         .Font = Times(18),
         .Background = Yellow,
         .ToolTip = "Click any two boxes to swap ",
+        .ClickWorks = Works::WhenNoneWaitsAbove,
         .Spoken = "Your letter %1 of 6",
         .SpokenHelp = "Takes this letter in your hand, or puts the one in your hand here"},
     {.Is = Kind::LetterTile,

@@ -36,7 +36,7 @@ struct BoxNumbers {
 };
 
 // When a click on a tile that is enabled does something.
-enum class Works { Always, WhenFilled, WhenEmpty };
+enum class Works { Always, WhenFilled, WhenEmpty, WhenNoneWaitsAbove };
 
 enum class Face {
     Plain,
