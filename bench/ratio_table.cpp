@@ -47,7 +47,8 @@ void Register(const std::string& name, const std::function<void()>& work)
 {
     if (!work)
         return;
-    benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
+    const char* const asText = name.c_str(); // Debian 12's library takes no string
+    benchmark::RegisterBenchmark(asText, [work](benchmark::State& state) {
         for ([[maybe_unused]] auto iteration : state)
             work();
     });
