@@ -4,7 +4,6 @@
 #include "game/game.h"
 #include "game/game_view.h"
 #include "game/numbers.h"
-#include "game/rows.h"
 #include "game/start_of_game.h"
 #include "lexicon/letters.h"
 

@@ -5,9 +5,11 @@
 #include "game/rows.h"
 #include "game/scoring.h"
 #include "headless/script_error.h"
+#include "lexicon/letters.h"
 
 #include <algorithm>
 #include <cassert>
+#include <cctype>
 #include <functional>
 #include <memory>
 #include <sstream>
@@ -98,8 +100,10 @@ void SetHeld(Board& board, const std::string& held)
 void SetHidden(Board& board, const std::string& text)
 {
     const std::vector<std::string> words = Split(text, '/');
-    Demand(words.size() == 3 && std::ranges::none_of(words, &std::string::empty),
-        "three words have slashes between them");
+    const auto isWord
+        = [](const std::string& word) { return CountLetters(word) == lettersPerWord; };
+    Demand(words.size() == 3 && std::ranges::all_of(words, isWord),
+        "three words of six letters have slashes between them");
     std::ranges::copy(words, board.HiddenWords.begin());
 }
 
@@ -198,8 +202,9 @@ Part Number(const char* key, NumberBox Board::* box)
 {
     return {key, [box](const Board& board) { return Replaced((board.*box).Text, ' ', '_'); },
         [box](Board& board, const std::string& text) {
+            const bool padded = box == &Board::Text9 && text.starts_with('_');
             ReadNumber<long long>(
-                text.substr(text.find_first_not_of('_')), -1'000'000'000'000, 1'000'000'000'000);
+                text.substr(padded ? 1 : 0), -1'000'000'000'000, 1'000'000'000'000);
             (board.*box).Text = Replaced(text, '_', ' ');
         }};
 }
@@ -284,6 +289,10 @@ void SetBoard(Board& board, const std::string& text)
             throw ScriptError(word + ": " + error.what());
         }
     }
+    Demand(!board.Frame2.Visible || board.Level > 0, "a board on view needs its \"level:\"");
+    // Letters above go on into the row, from its first box unless "next:" says where.
+    if (HoldsLetters(board.Text2) && board.LayOutNext % (lettersPerWord + 1) == 0)
+        board.LayOutNext = 1;
 }
 
 std::string Line(const Board& board, std::initializer_list<const char*> keys)

@@ -11,7 +11,6 @@
 #include <optional>
 #include <random>
 #include <string>
-#include <vector>
 
 // Something went wrong that the rules must not handle: no std::exception, so that none of their
 // failure paths swallows it.

@@ -156,7 +156,9 @@ Run ReadList(const std::string& rest)
 
 Run ReadBoard(const std::string& rest)
 {
-    SetBoard(*std::make_unique<Board>(), rest);
+    const auto board = std::make_unique<Board>();
+    board->Level = 1; // as a line before this one may have it
+    SetBoard(*board, rest);
     return [rest](HeadlessGame& game) { SetBoard(game.board, rest); };
 }
 

@@ -32,7 +32,7 @@ File OpenRegularFile(const std::filesystem::path& path)
 #ifdef _WIN32
     std::error_code error;
     const bool regular = std::filesystem::is_regular_file(path, error);
-    return {regular ? std::fopen(path.string().c_str(), "rb") : nullptr, std::fclose};
+    return {regular ? _wfopen(path.c_str(), L"rb") : nullptr, std::fclose};
 #else
     // What is opened is looked at, and not what stood there before; and nothing waits for a writer.
     const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);

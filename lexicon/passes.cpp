@@ -4,10 +4,10 @@
 #include "lexicon/lexicon_file.h"
 #include "lexicon/limits.h"
 
-#include <algorithm>
 #include <array>
 #include <cassert>
 #include <map>
+#include <utility>
 
 namespace {
 

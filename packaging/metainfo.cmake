@@ -1,24 +1,24 @@
 # The entry for software centres. What is new in a release is told by the change log, and pictures
 # are shown from the project's home page, where there is one.
 set(QUORVEL_HOME_PAGE "" CACHE STRING
-  "Web address of the project, with docs/pictures below it; none: software centres show neither")
+  "Web address of the project, with docs/ below it; none: software centres show neither")
 if(QUORVEL_HOME_PAGE)
   set(at_home "=${QUORVEL_HOME_PAGE}/data/Lexicon.txt.license")
-  set(pictures ${QUORVEL_HOME_PAGE}/docs/pictures)
+  set(docs ${QUORVEL_HOME_PAGE}/docs)
   set(links "
   <url type=\"homepage\">${QUORVEL_HOME_PAGE}</url>
   <screenshots>
     <screenshot type=\"default\">
       <caption>A game in progress</caption>
-      <image>${pictures}/game.png</image>
+      <image>${docs}/pictures/game.png</image>
     </screenshot>
     <screenshot>
       <caption>The choice of a level</caption>
-      <image>${pictures}/level-panel.png</image>
+      <image>${docs}/how-to-play/level-panel.png</image>
     </screenshot>
     <screenshot>
       <caption>A game on a dark desktop</caption>
-      <image>${pictures}/game-dark.png</image>
+      <image>${docs}/pictures/game-dark.png</image>
     </screenshot>
   </screenshots>")
 endif()

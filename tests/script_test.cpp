@@ -39,7 +39,8 @@ TEST(Script, NamesFileLineAndWordOfWhatSaysNothing)
         {"board me=plan(e", "me=plan(e: a bracket is not closed"},
         {"board shown=planet/garden", "shown=planet/garden: rows have slashes between them"},
         {"board you:a", "you:a: \"a\" is not a number from -1000000000000 to 1000000000000"},
-        {"board hidden=planet", "hidden=planet: three words have slashes between them"},
+        {"board hidden=planet",
+            "hidden=planet: three words of six letters have slashes between them"},
         {"board go:maybe", "go:maybe: yes or no is wanted"},
         {"board off=Command3", "off=Command3: Command3 arranges no letters"},
         {"board candidates=2001*planet",
@@ -63,7 +64,8 @@ TEST(Script, PlaysAsAWindowWould)
             "Quorvel2: The file Lexicon.txt must be in the C:\\ Directory (Folder)", "end",
             "refused Command3"}));
     EXPECT_EQ(game.board.Level, 0);
-    RunScript(game, "board hidden=planet/garden/simple you=garden frames:yes\ndo Command6 Text1:1");
+    RunScript(game,
+        "board hidden=planet/garden/simple you=garden level:1 frames:yes\ndo Command6 Text1:1");
     EXPECT_EQ(game.FirstFault(), "a draw that was not expected");
 }
 

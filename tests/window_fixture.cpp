@@ -6,7 +6,6 @@
 
 #include <QClipboard>
 #include <QLabel>
-#include <QLayout>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>

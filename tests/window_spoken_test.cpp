@@ -1,6 +1,7 @@
 // What a screen reader says.
 #include "window_fixture.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 
 namespace {
@@ -9,7 +10,14 @@ TEST_F(Window, SpeaksOfEveryControl)
 {
     const auto* whole = QAccessible::queryAccessibleInterface(&window);
     EXPECT_EQ(whole->role(), QAccessible::Window);
-    Play("Option1:3 Command1 swap=WINDOW");
+    // A screen reader sets what can be set without a click or a key.
+    Named<QAbstractButton>("Option1:3")->toggle();
+    Play("Command1 swap=WINDOW");
+    Named<QAbstractButton>("Check1")->toggle();
+    QAccessible::queryAccessibleInterface(Named("Text6:2"))->setText(QAccessible::Value, "x");
+    window.ShowBoard();
+    EXPECT_EQ(board.Check1, 0);
+    EXPECT_EQ(board.Text6(2).Text, "x");
     EXPECT_EQ(Spoken("SwapLetters:1"), "Swap letter 1 of 6, red: w");
     EXPECT_EQ(Spoken("Word2:5"), "Hidden word 2, letter 5 of 6: buy for 100 points");
     // The boxes of a hidden word come one after the other.

@@ -3,6 +3,7 @@
 #include "window_fixture.h"
 
 #include <QListWidget>
+#include <QMap>
 
 #include <map>
 #include <regex>

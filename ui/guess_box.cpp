@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <limits>
+#include <string>
 #include <utility>
 
 GuessBox::GuessBox(QWidget* parent)
@@ -54,25 +55,19 @@ void GuessBox::Write(const QString& letters)
 {
     if (text() != letters)
         setText(letters);
-    if (told_)
-        told_(letters);
 }
 
 // A letter moves on once it stands in the box. More of them at once, as a pasted word brings, go on
 // over the row, and what is left then stays in its last box.
 void GuessBox::Spread(const QString& typed)
 {
-    const QList<uint> letters = typed.normalized(QString::NormalizationForm_C).toUcs4();
-    const auto from = [&letters](qsizetype first, qsizetype count) {
-        const QList<uint> some = letters.mid(first, count);
-        return QString::fromUcs4(reinterpret_cast<const char32_t*>(some.constData()), some.size());
-    };
+    const std::u32string letters = typed.normalized(QString::NormalizationForm_C).toStdU32String();
     GuessBox* box = this;
-    qsizetype written = 0;
+    std::size_t written = 0;
     for (; written + 1 < letters.size() && !box->lastInRow_; ++written, box = box->next_)
-        box->Write(from(written, 1));
-    box->Write(from(written, -1));
-    if (erasing_ || letters.isEmpty())
+        box->Write(QString::fromStdU32String(letters.substr(written, 1)));
+    box->Write(QString::fromStdU32String(letters.substr(written)));
+    if (erasing_ || letters.empty())
         return;
     if (StepTo(box->next_))
         box->next_->steppedInto_ = true;

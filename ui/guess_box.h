@@ -5,8 +5,6 @@
 
 #include <QLineEdit>
 
-#include <functional>
-
 class GuessBox : public QLineEdit {
 public:
     explicit GuessBox(QWidget* parent);
@@ -17,9 +15,6 @@ public:
 
     // The box above this one, in the row above.
     void StandBelow(GuessBox& above);
-
-    // Who is told of every text that the player gives the box.
-    void OnTyped(std::function<void(const QString&)> told) { told_ = std::move(told); }
 
     // The letter that the hidden word shows at this place, or "". Where it stands in the box it is
     // known to be right: it is passed on the way back, and not erased.
@@ -44,7 +39,6 @@ private:
     GuessBox* next_ = nullptr;
     GuessBox* above_ = nullptr;
     GuessBox* below_ = nullptr;
-    std::function<void(const QString&)> told_;
     QString shown_;
     bool lastInRow_ = true;
     bool steppedInto_ = false; // on from a letter that was typed: Backspace is for that letter

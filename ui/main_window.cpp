@@ -59,8 +59,16 @@ void MainWindow::ConnectClicks()
     for (const BuiltControl& control : controls_) {
         if (control.Clicked == nullptr)
             continue;
-        connect(&As<QAbstractButton>(control), &QAbstractButton::clicked, this,
-            [this, &control] { Click(control); });
+        auto* button = &As<QAbstractButton>(control);
+        if (control.Row->Is != Kind::Option) {
+            connect(button, &QAbstractButton::clicked, this, [this, &control] { Click(control); });
+            continue;
+        }
+        // A screen reader can choose a level without a click.
+        connect(button, &QAbstractButton::toggled, this, [this, &control](bool chosen) {
+            if (chosen && game_.board.Level != control.Number)
+                Click(control);
+        });
     }
 }
 
@@ -82,7 +90,7 @@ void MainWindow::Click(const BuiltControl& control)
 void MainWindow::ConnectTyping()
 {
     Board& board = game_.board;
-    connect(&Find<QAbstractButton>(controls_, "Check1"), &QAbstractButton::clicked, this,
+    connect(&Find<QAbstractButton>(controls_, "Check1"), &QAbstractButton::toggled, this,
         [&board](bool ticked) { WriteTick(board, ticked); });
     auto& words = Find<UsedWordsList>(controls_, "List1");
     connect(&words, &UsedWordsList::currentRowChanged, this, [this, &words](int row) {
@@ -93,7 +101,11 @@ void MainWindow::ConnectTyping()
         if (control.Row->Is != Kind::GuessBox || control.Shows == nullptr)
             continue;
         LetterBox& box = (board.*std::get<LetterRow Board::*>(*control.Shows))(control.Number);
-        As<GuessBox>(control).OnTyped([&box](const QString& typed) { WriteGuess(box, typed); });
+        // Typed, pasted, or set by whoever plays through a screen reader. What was pasted may have
+        // spread by now.
+        auto* guess = &As<GuessBox>(control);
+        connect(guess, &QLineEdit::textChanged, this,
+            [&box, guess] { WriteGuess(box, guess->text()); });
     }
 }
 
@@ -156,9 +168,12 @@ bool MainWindow::event(QEvent* event)
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_F1)
-        OpenHowToPlay();
-    else if (!PressOnLevelPanel(controls_, *event) && !typing_.Press(*event))
+    if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
+        if (!event->isAutoRepeat())
+            OpenHowToPlay();
+        return;
+    }
+    if (!PressOnLevelPanel(controls_, *event) && !typing_.Press(*event))
         QWidget::keyPressEvent(event);
 }
 

@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -69,11 +70,19 @@ protected:
     void showEvent(QShowEvent* event) override
     {
         QMessageBox::showEvent(event);
+        const QRect screen = parentWidget()->screen()->availableGeometry();
         const QPoint bottomRight = room_.bottomRight() - QPoint(margin, margin);
-        setGeometry(QRect(bottomRight - QPoint(width() - 1, height() - 1), size()));
+        const QPoint topLeft = bottomRight - QPoint(width() - 1, height() - 1);
+        // The window may lie half off the screen, and would wait for an answer that nobody can
+        // give.
+        setGeometry(QRect(QPoint(InReach(topLeft.x(), screen.left(), screen.right() - width()),
+                              InReach(topLeft.y(), screen.top(), screen.bottom() - height())),
+            size()));
     }
 
 private:
+    static int InReach(int at, int first, int last) { return std::max(first, std::min(at, last)); }
+
     bool HasAnswerForEscape() const { return buttons().size() == 1 || NoIsHarmless(windowTitle()); }
 
     // The toolkit keeps room for an icon that is not there, and some desktops centre the buttons.

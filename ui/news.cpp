@@ -144,7 +144,8 @@ bool Begins(const Heard& told, const Heard& now)
     if (now.LevelPanel)
         return false;
     return told.LevelPanel || !told.GameFrames || now.Caption != told.Caption
-        || Replaced(told.Words(1), now.Words(1));
+        || Replaced(told.Words(1), now.Words(1)) || Replaced(told.Words(2), now.Words(2))
+        || Replaced(told.Words(3), now.Words(3));
 }
 
 } // namespace

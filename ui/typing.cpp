@@ -43,7 +43,7 @@ bool IsTyped(const QKeyEvent& key)
     const bool altGr = false;
 #endif
     return (commands == Qt::NoModifier || altGr) && !key.text().isEmpty()
-        && key.key() != Qt::Key_Space && key.text().front().isPrint();
+        && key.key() != Qt::Key_Space && QChar::isPrint(key.text().toUcs4().front());
 }
 
 } // namespace

@@ -1,6 +1,5 @@
-// Draws the pictures of the documents from the real window: the level panel and a game in progress,
-// on a light and on a dark desktop, and the steps of a go. The same word list gives the same
-// pictures.
+// Draws the pictures of the documents from the real window: the level panel, the steps of a go, and
+// a game in progress on a light and on a dark desktop. The same word list gives the same pictures.
 #include "headless/board_text.h"
 #include "headless/script.h"
 #include "ui/board_style.h"
@@ -72,16 +71,15 @@ void DrawGo(const char* wordList, const QString& files)
     }
 }
 
-void DrawDesktop(const char* wordList, const QString& files, const QPalette& desktop)
+void DrawDesktop(const char* wordList, const QString& file, const QPalette& desktop)
 {
     QApplication::setPalette(desktop);
     HeadlessGame game(wordList, HeadlessPlatform(36000));
     MainWindow window(game.game);
     window.show();
-    Draw(window, files.arg(QStringLiteral("level-panel")));
     game.Play(gameInProgress);
     window.ShowBoard();
-    Draw(window, files.arg(QStringLiteral("game")));
+    Draw(window, file);
 }
 
 } // namespace
@@ -94,8 +92,8 @@ try {
     Demand(argc == 3, "usage: draw_pictures WORD_LIST DOCS");
     const QString docs = QString::fromLocal8Bit(argv[2]);
     DrawGo(argv[1], docs + QStringLiteral("/how-to-play/%1.png"));
-    DrawDesktop(argv[1], docs + QStringLiteral("/pictures/%1.png"), QApplication::palette());
-    DrawDesktop(argv[1], docs + QStringLiteral("/pictures/%1-dark.png"), DarkDesktop());
+    DrawDesktop(argv[1], docs + QStringLiteral("/pictures/game.png"), QApplication::palette());
+    DrawDesktop(argv[1], docs + QStringLiteral("/pictures/game-dark.png"), DarkDesktop());
     return EXIT_SUCCESS;
 } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

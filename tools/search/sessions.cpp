@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <iterator>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -19,7 +21,7 @@ constexpr int eventsOfSession = 1000;
 const char* const smallLists[] = {
     "list planet garden simple",                      // often no third first letter is left to draw
     "list aaaaaa baaaaa caaaaa caaaaa",               // twelve equal letters can face the computer
-    "list stream master tamers altars remast artsal", // the same letters again
+    "list stream master tamers altars remast artsal", // words of the same letters
     "list gardens planet garden simple eaglet impels nested letter simple",
     "list _ planet garden simple ****** eaglet gender impels nested simple",
 };
@@ -142,7 +144,8 @@ bool Fails(const std::filesystem::path& wordList, const Session& session)
         _exit(fails() ? 1 : 0);
     }
     int status = 0;
-    waitpid(child, &status, 0);
+    if (child < 0 || waitpid(child, &status, 0) != child)
+        throw std::system_error(errno, std::generic_category(), "a session could not be played");
     return status != 0;
 }
 

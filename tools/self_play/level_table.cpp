@@ -96,7 +96,7 @@ void MeasureLevels(const std::filesystem::path& lexicon, const std::string& data
                 PlayGame(lexicon, player, level, seed, mostGoes, story));
     }
     std::puts("| Level | Words per 100 goes | Ahead of the next level by | Points per go "
-              "| Fruitless goes | Games with a claim | Goes until it, mean | median "
+              "| Fruitless goes | Games with a claim | Goes until the claim, mean | median "
               "| The player's words per 100 goes |\n|--:|--:|--:|--:|--:|--:|--:|--:|--:|");
     std::ofstream data(dataFile);
     for (std::size_t k = 0; k < levels; ++k)

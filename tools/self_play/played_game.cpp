@@ -7,6 +7,7 @@
 #include "lexicon/lexicon_file.h"
 
 #include <algorithm>
+#include <cctype>
 #include <stdexcept>
 
 namespace {

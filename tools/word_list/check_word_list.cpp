@@ -1,10 +1,9 @@
 // Checks a word list: whether it keeps the rules, and how many words a game can find in it.
 //
 //   check_word_list FILE          tells it
-//   check_word_list --fit FILE    prints the list without the words that have to leave it, and
-//   tells
-//                                 the rest on the standard error; a number in front of a word says
-//                                 how little it is known, as in "50 planet"
+//   check_word_list --fit FILE    prints the list without the words that have to leave it, and the
+//                                 rest on the standard error; a number in front of a word says how
+//                                 little it is known, as in "50 planet"
 //
 // Status 0: the game can play with the list. 1: it cannot. 2: the call makes no sense.
 #include "game/board.h"
@@ -49,8 +48,8 @@ bool FitsTheGame(const LargeGame& largest, std::FILE* out)
 KnownWord ParseRecord(const std::string& record)
 {
     const std::size_t digits = record.find_first_not_of("0123456789");
-    if (digits == 0 || digits == std::string::npos || record[digits] != ' ')
-        return {.word = record};
+    if (digits == 0 || digits > 4 || digits == std::string::npos || record[digits] != ' ')
+        return {.word = record}; // which is no word, if a number stands in front
     return {.word = record.substr(digits + 1), .size = std::stoi(record)};
 }
 

@@ -4,7 +4,6 @@
 #include "lexicon/lexicon_file.h"
 #include "lexicon/limits.h"
 
-#include <algorithm>
 #include <set>
 
 namespace {
