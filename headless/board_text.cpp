@@ -198,11 +198,12 @@ Part Rows(const char* key, const std::vector<LetterRow Board::*>& rows)
         }};
 }
 
-Part Number(const char* key, NumberBox Board::* box)
+// The rules read a padded number past one blank, "_10", and any other as it stands.
+Part Number(const char* key, NumberBox Board::* box, bool mayBePadded = false)
 {
     return {key, [box](const Board& board) { return Replaced((board.*box).Text, ' ', '_'); },
-        [box](Board& board, const std::string& text) {
-            const bool padded = box == &Board::Text9 && text.starts_with('_');
+        [=](Board& board, const std::string& text) {
+            const bool padded = mayBePadded && text.starts_with('_');
             ReadNumber<long long>(
                 text.substr(padded ? 1 : 0), -1'000'000'000'000, 1'000'000'000'000);
             (board.*box).Text = Replaced(text, '_', ' ');
@@ -241,7 +242,7 @@ const Part parts[] = {
         SetHeld},
     Number("you:", &Board::YourScore),
     Number("me:", &Board::MyScore),
-    Number("bonus:", &Board::Text9),
+    Number("bonus:", &Board::Text9, true),
     {"used=", UsedText, SetUsed},
     Count("ledger:", &Board::UsedCount, 0, ledgerSlots),
     {"hidden=",
@@ -291,7 +292,8 @@ void SetBoard(Board& board, const std::string& text)
     }
     Demand(!board.Frame2.Visible || board.Level > 0, "a board on view needs its \"level:\"");
     // Letters above go on into the row, from its first box unless "next:" says where.
-    if (HoldsLetters(board.Text2) && board.LayOutNext % (lettersPerWord + 1) == 0)
+    const bool goesOn = board.LayOutNext >= 1 && board.LayOutNext <= lettersPerWord;
+    if (HoldsLetters(board.Text2) && !goesOn)
         board.LayOutNext = 1;
 }
 

@@ -16,7 +16,8 @@ struct Board;
 // Every part of the board, as in {"you=", "planet"}.
 std::vector<std::pair<std::string, std::string>> PartsOf(const Board& board);
 
-// Throws ScriptError for a part that is unknown or malformed; the parts before it are set by then.
+// Throws ScriptError for a part that is unknown or malformed, where the parts before it are set by
+// then, and for a board on view with no level.
 void SetBoard(Board& board, const std::string& parts);
 
 // These parts as one line.

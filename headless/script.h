@@ -42,7 +42,8 @@ struct Script {
 // Throws ScriptError with file, line and word: "moves.txt:3: Comand4: no such event".
 std::vector<Script> ReadScripts(std::istream& stream, const std::string& file);
 
-// Runs a script that stands alone. Throws ScriptError before anything is run.
+// Runs a script that stands alone. Throws ScriptError before anything is run, but for a board that
+// cannot be played on when its line is reached.
 void RunScript(HeadlessGame& game, const std::string& text);
 
 // Throws ScriptError with the word.

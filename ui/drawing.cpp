@@ -73,8 +73,7 @@ struct ShowField {
         const QString text = Shown(box.Text);
         if (control.Row->Is == Kind::GuessBox) {
             auto& guess = As<GuessBox>(control);
-            if (guess.text() != text)
-                guess.setText(text);
+            guess.Write(text);
             guess.SetShown(ShownAbove(board, row, control.Number));
             return;
         }

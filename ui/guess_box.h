@@ -16,6 +16,9 @@ public:
     // The box above this one, in the row above.
     void StandBelow(GuessBox& above);
 
+    // Sets the text. The same one again leaves cursor and selection as they are.
+    void Write(const QString& letters);
+
     // The letter that the hidden word shows at this place, or "". Where it stands in the box it is
     // known to be right: it is passed on the way back, and not erased.
     void SetShown(const QString& letter) { shown_ = letter; }
@@ -32,7 +35,6 @@ private:
     bool Walk(int key);
     void EraseBefore();
     void Spread(const QString& typed);
-    void Write(const QString& letters);
 
     RowPlace inRow_{*this};
     GuessBox* previous_ = nullptr;

@@ -128,12 +128,15 @@ QStringList NewLetters(const Heard& told, const Heard& now)
     return news;
 }
 
-// True when a letter that was known is another one now.
-bool Replaced(const LetterRow& told, const LetterRow& now)
+// True when a letter of the hidden words that was known is another one now.
+bool Replaced(const Heard& told, const Heard& now)
 {
-    for (int box = 1; box <= lettersPerWord; ++box) {
-        if (!told(box).Text.empty() && told(box).Text != now(box).Text)
-            return true;
+    for (int word = 1; word <= 3; ++word) {
+        for (int box = 1; box <= lettersPerWord; ++box) {
+            const std::string& known = told.Words(word)(box).Text;
+            if (!known.empty() && known != now.Words(word)(box).Text)
+                return true;
+        }
     }
     return false;
 }
@@ -144,8 +147,7 @@ bool Begins(const Heard& told, const Heard& now)
     if (now.LevelPanel)
         return false;
     return told.LevelPanel || !told.GameFrames || now.Caption != told.Caption
-        || Replaced(told.Words(1), now.Words(1)) || Replaced(told.Words(2), now.Words(2))
-        || Replaced(told.Words(3), now.Words(3));
+        || Replaced(told, now);
 }
 
 } // namespace

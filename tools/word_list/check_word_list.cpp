@@ -48,7 +48,7 @@ bool FitsTheGame(const LargeGame& largest, std::FILE* out)
 KnownWord ParseRecord(const std::string& record)
 {
     const std::size_t digits = record.find_first_not_of("0123456789");
-    if (digits == 0 || digits > 4 || digits == std::string::npos || record[digits] != ' ')
+    if (digits == 0 || digits > 4 || record[digits] != ' ')
         return {.word = record}; // which is no word, if a number stands in front
     return {.word = record.substr(digits + 1), .size = std::stoi(record)};
 }
