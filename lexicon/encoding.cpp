@@ -1,7 +1,6 @@
 #include "lexicon/encoding.h"
 
 #include "lexicon/letters.h"
-#include "lexicon/lexicon_file.h"
 
 #include <algorithm>
 #include <array>
@@ -83,7 +82,7 @@ bool IsUtf8(std::string_view bytes)
     }
 }
 
-std::string Utf8OfWindows1252(std::string_view bytes)
+std::optional<std::string> Utf8OfWindows1252(std::string_view bytes)
 {
     std::string text;
     for (const char byte : bytes) {
@@ -91,7 +90,7 @@ std::string Utf8OfWindows1252(std::string_view bytes)
         const bool listed = number >= 0x80 && number <= 0x9F;
         const char16_t letter = listed ? windowsLetters[number - 0x80U] : number;
         if (listed && letter == 0)
-            throw LexiconError("the word list is neither UTF-8 nor Windows-1252");
+            return {};
         Append(text, letter);
     }
     return text;

@@ -1,6 +1,7 @@
 // The encodings that a word list can be written in.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,6 @@
 // beyond U+10FFFF are not.
 bool IsUtf8(std::string_view bytes);
 
-// The UTF-8 of a text in Windows-1252. Throws LexiconError at one of the five bytes that stand for
+// The UTF-8 of a text in Windows-1252; nothing when it has one of the five bytes that stand for
 // nothing there.
-std::string Utf8OfWindows1252(std::string_view bytes);
+std::optional<std::string> Utf8OfWindows1252(std::string_view bytes);

@@ -108,8 +108,12 @@ void LexiconFile::Open()
         text.remove_prefix(byteOrderMark.size());
     if (text.find('\0') != std::string_view::npos)
         throw LexiconError("the word list is no text: " + path_.string());
-    if (!IsUtf8(text))
-        text = translated_ = Utf8OfWindows1252(text);
+    if (!IsUtf8(text)) {
+        auto translated = Utf8OfWindows1252(text);
+        if (!translated)
+            throw LexiconError("neither UTF-8 nor Windows-1252: " + path_.string());
+        text = translated_ = *std::move(translated);
+    }
     next_ = text.data();
     end_ = next_ + text.size();
 }
