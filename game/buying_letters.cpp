@@ -3,47 +3,49 @@
 #include "game/board.h"
 #include "game/game.h"
 #include "game/game_view.h"
+#include "game/hidden_words.h"
 #include "game/numbers.h"
 #include "lexicon/letters.h"
 
 namespace {
 
-constexpr double price = 100;
-
-void BuyLetter(Game& game, const std::string& hiddenWord, LetterBox& bought, LetterBox& guessed,
-    std::int16_t Index)
+void BuyLetter(Game& game, const HiddenWord& word, std::int16_t Index)
 {
-    NumberBox& score = game.board.YourScore;
-    if (!bought.Text.empty())
+    Board& board = game.board;
+    if (!LetterIsHidden(board, word, Index))
         return;
-    if (NumberOf(score.Text) < price) {
+    NumberBox& score = board.YourScore;
+    if (NumberOf(score.Text) < letterPrice) {
         game.view.ShowMessage("You can't buy letters");
         return;
     }
-    bought.Text = LetterOf(hiddenWord, Index);
-    guessed.Text = bought.Text;
-    score.Text = PlainForm(NumberOf(score.Text) - price);
+    LetterBox& bought = (board.*word.Shown)(Index);
+    bought.Text = LetterOf(board.HiddenWords(word.Number), Index);
+    (board.*word.Guess)(Index).Text = bought.Text;
+    score.Text = PlainForm(NumberOf(score.Text) - letterPrice);
 }
 
 } // namespace
 
+bool LetterIsHidden(const Board& board, const HiddenWord& word, std::int16_t Index)
+{
+    return (board.*word.Shown)(Index).Text.empty();
+}
+
 // A box of "The Words (Buy Letters)", first word
 void Word1_Click(Game& game, std::int16_t Index)
 {
-    Board& board = game.board;
-    BuyLetter(game, board.HiddenWords(1), board.Word1(Index), board.Text6(Index), Index);
+    BuyLetter(game, hiddenWords[0], Index);
 }
 
 // A box of "The Words (Buy Letters)", second word
 void Word2_Click(Game& game, std::int16_t Index)
 {
-    Board& board = game.board;
-    BuyLetter(game, board.HiddenWords(2), board.Word2(Index), board.Text7(Index), Index);
+    BuyLetter(game, hiddenWords[1], Index);
 }
 
 // A box of "The Words (Buy Letters)", third word
 void Word3_Click(Game& game, std::int16_t Index)
 {
-    Board& board = game.board;
-    BuyLetter(game, board.HiddenWords(3), board.Word3(Index), board.Text8(Index), Index);
+    BuyLetter(game, hiddenWords[2], Index);
 }

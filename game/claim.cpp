@@ -3,6 +3,7 @@
 #include "game/board.h"
 #include "game/game.h"
 #include "game/game_view.h"
+#include "game/hidden_words.h"
 #include "game/numbers.h"
 #include "game/start_of_game.h"
 #include "lexicon/letters.h"
@@ -12,9 +13,11 @@ namespace {
 void RevealAllLetters(Board& board)
 {
     for (int k = 1; k <= lettersPerWord; ++k) {
-        board.Text6(k).Text = board.Word1(k).Text = LetterOf(board.HiddenWords(1), k);
-        board.Text7(k).Text = board.Word2(k).Text = LetterOf(board.HiddenWords(2), k);
-        board.Text8(k).Text = board.Word3(k).Text = LetterOf(board.HiddenWords(3), k);
+        for (const HiddenWord& word : hiddenWords) {
+            LetterBox& shown = (board.*word.Shown)(k);
+            shown.Text = LetterOf(board.HiddenWords(word.Number), k);
+            (board.*word.Guess)(k).Text = shown.Text;
+        }
     }
 }
 

@@ -3,16 +3,26 @@
 #include "game/board.h"
 #include "game/game.h"
 #include "game/game_view.h"
+#include "game/hidden_words.h"
 #include "game/numbers.h"
 #include "game/rows.h"
 #include "game/start_of_game.h"
 
+#include <algorithm>
+
 namespace {
+
+bool GuessHasEmptyBox(const Board& board)
+{
+    return std::ranges::any_of(
+        hiddenWords, [&board](const HiddenWord& word) { return HasEmptyBox(board.*word.Guess); });
+}
 
 bool GuessIsRight(const Board& board)
 {
-    return Spell(board.Text6) == board.HiddenWords(1) && Spell(board.Text7) == board.HiddenWords(2)
-        && Spell(board.Text8) == board.HiddenWords(3);
+    return std::ranges::all_of(hiddenWords, [&board](const HiddenWord& word) {
+        return Spell(board.*word.Guess) == board.HiddenWords(word.Number);
+    });
 }
 
 std::string ResultText(const Board& board)
@@ -32,7 +42,7 @@ std::string ResultText(const Board& board)
 void Command7_Click(Game& game)
 {
     Board& board = game.board;
-    if (HasEmptyBox(board.Text6) || HasEmptyBox(board.Text7) || HasEmptyBox(board.Text8)) {
+    if (GuessHasEmptyBox(board)) {
         game.view.ShowMessage("Please fill all the letter Boxes Below!");
         return;
     }
@@ -46,6 +56,6 @@ void Command7_Click(Game& game)
     OfferAnotherGame(game);
     for (Frame* frame : GameFrames(board))
         frame->Visible = false;
-    for (LetterRow* row : {&board.Text6, &board.Text7, &board.Text8})
-        Empty(*row);
+    for (const HiddenWord& word : hiddenWords)
+        Empty(board.*word.Guess);
 }

@@ -4,6 +4,7 @@
 #include "game/chance.h"
 #include "game/game.h"
 #include "game/game_view.h"
+#include "game/hidden_words.h"
 #include "game/numbers.h"
 #include "game/rows.h"
 #include "lexicon/letters.h"
@@ -26,9 +27,10 @@ constexpr std::uint64_t mostTries = 20'000;
 void ClearLastGame(Board& board)
 {
     board.WordCount = 0;
-    for (LetterRow* row :
-        {&board.Text6, &board.Text7, &board.Text8, &board.Word1, &board.Word2, &board.Word3})
-        Empty(*row);
+    for (const HiddenWord& word : hiddenWords)
+        Empty(board.*word.Guess);
+    for (const HiddenWord& word : hiddenWords)
+        Empty(board.*word.Shown);
     board.List1.Clear();
     for (std::string& word : board.UsedWords)
         word.clear();
@@ -100,16 +102,14 @@ void FillCandidates(Board& board, LexiconFile& lexicon)
 
 void RevealLetters(Board& board)
 {
-    const auto reveal = [](LetterRow& row, const std::string& word) {
+    const auto reveal = [&board](LetterRow& row, int number) {
         for (const int k : {1, 4})
-            row(k).Text = LetterOf(word, k);
+            row(k).Text = LetterOf(board.HiddenWords(number), k);
     };
-    reveal(board.Word1, board.HiddenWords(1));
-    reveal(board.Word2, board.HiddenWords(2));
-    reveal(board.Word3, board.HiddenWords(3));
-    reveal(board.Text6, board.HiddenWords(1));
-    reveal(board.Text7, board.HiddenWords(2));
-    reveal(board.Text8, board.HiddenWords(3));
+    for (const HiddenWord& word : hiddenWords)
+        reveal(board.*word.Shown, word.Number);
+    for (const HiddenWord& word : hiddenWords)
+        reveal(board.*word.Guess, word.Number);
 }
 
 void StartGame(Game& game)
