@@ -3,17 +3,18 @@
 #include "game/board.h"
 #include "game/game.h"
 #include "game/game_view.h"
+#include "game/questions.h"
 #include "game/start_of_game.h"
 
 // "Give In": the next game, if there is one, goes on from the scores of this one.
 void Command10_Click(Game& game)
 {
     const Board& board = game.board;
-    if (game.view.AskYesNo("Do You Resign? and Make Me The Winner!!", "Do I win?") == Answer::No)
+    if (Ask(game, resignation) == Answer::No)
         return;
     game.view.ShowMessage("The Words Were: " + board.HiddenWords(1) + " : " + board.HiddenWords(2)
         + " : " + board.HiddenWords(3));
-    if (game.view.AskYesNo("Play Again?", "New Game") == Answer::No)
+    if (Ask(game, nextGame) == Answer::No)
         game.view.EndProgram();
     Command1_Click(game);
 }

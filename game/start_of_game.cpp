@@ -6,6 +6,7 @@
 #include "game/game_view.h"
 #include "game/hidden_words.h"
 #include "game/numbers.h"
+#include "game/questions.h"
 #include "game/rows.h"
 #include "lexicon/letters.h"
 #include "lexicon/lexicon_file.h"
@@ -200,7 +201,7 @@ void CentreLevelPanel(Board& board)
 void OfferAnotherGame(Game& game)
 {
     Board& board = game.board;
-    if (game.view.AskYesNo("Play Again", "New Game") == Answer::No)
+    if (Ask(game, anotherGame) == Answer::No)
         game.view.EndProgram();
     CentreLevelPanel(board);
     board.Frame1.Visible = true;
