@@ -6,6 +6,7 @@
 #include "game/game.h"
 #include "game/give_in.h"
 #include "game/guess.h"
+#include "game/hidden_words.h"
 #include "game/lay_out_word.h"
 #include "game/moving_letters.h"
 #include "game/start_of_game.h"
@@ -38,6 +39,16 @@ template <auto row> bool BoxFlag(const Board& board, std::int16_t Index)
     return (board.*row)(Index).Enabled;
 }
 
+template <auto predicate> bool Holds(const Board& board, std::int16_t /*Index*/)
+{
+    return predicate(board);
+}
+
+template <int word> bool Hidden(const Board& board, std::int16_t Index)
+{
+    return LetterIsHidden(board, hiddenWords[word - 1], Index);
+}
+
 template <auto handler> void Plain(Game& game, std::int16_t /*Index*/)
 {
     handler(game);
@@ -49,29 +60,51 @@ constexpr auto inFrame4 = In<&Board::Frame4>; // "Your Letters + Score"
 
 constexpr int boxes = lettersPerWord; // of a row
 
-// Control, boxes, on view, enabled, handler.
+// Control, boxes, on view, enabled, works, handler.
 constexpr Click clicks[] = {
-    {"Option1", levels, inFrame1, Always, Option1_Click},            // "Level 1" to "Level 6"
-    {"Command1", 0, inFrame1, Always, Plain<Command1_Click>},        // "OK"
-    {"Text1", boxes, inFrame4, BoxFlag<&Board::Text1>, Text1_Click}, // a box of "Your Letters"
-    {"SwapLetters", boxes, InFrame3Or4, BoxFlag<&Board::SwapLetters>,
-        SwapLetters_Click}, // a box of "Swap Letters"
-    {"Command4", 0, inFrame4, ButtonFlag<&Board::Command4>, Plain<Command4_Click>}, // "<"
-    {"Command5", 0, inFrame4, ButtonFlag<&Board::Command5>, Plain<Command5_Click>}, // ">"
-    {"Command6", 0, inFrame4, ButtonFlag<&Board::Command6>, Plain<Command6_Click>}, // "Mix Letters"
-    {"Command15", 0, inFrame4, Always, Plain<Command15_Click>}, // "Rotate Swap Letters"
-    {"Command16", 0, inFrame4, ButtonFlag<&Board::Command16>, Plain<Command16_Click>}, // "+"
-    {"Command9", 0, inFrame4, ButtonFlag<&Board::Command9>,
-        Plain<Command9_Click>},                                      // "Lay Out Word"
-    {"Text2", boxes, inFrame4, BoxFlag<&Board::Text2>, Text2_Click}, // a box above "Lay Out Word"
-    {"Command3", 0, inFrame4, Always, Plain<Command3_Click>},        // "Submit Word"
-    {"Command13", 0, inFrame4, Always, Plain<Command13_Click>},      // "Pass"
-    {"Command14", 0, inFrame4, Always, Plain<Command14_Click>},      // "Jumble"
-    {"Word1", boxes, inFrame2, BoxFlag<&Board::Word1>, Word1_Click}, // a box of hidden word 1
-    {"Word2", boxes, inFrame2, BoxFlag<&Board::Word2>, Word2_Click}, // a box of hidden word 2
-    {"Word3", boxes, inFrame2, BoxFlag<&Board::Word3>, Word3_Click}, // a box of hidden word 3
-    {"Command7", 0, inFrame2, Always, Plain<Command7_Click>},        // "Make A Guess"
-    {"Command10", 0, inFrame2, Always, Plain<Command10_Click>},      // "Give In"
+    // "Level 1" to "Level 6"
+    {"Option1", levels, inFrame1, Always, Always, Option1_Click},
+    // "OK"
+    {"Command1", 0, inFrame1, Always, Always, Plain<Command1_Click>},
+    // a box of "Your Letters"
+    {"Text1", boxes, inFrame4, BoxFlag<&Board::Text1>, Holds<NothingWaitsAbove>, Text1_Click},
+    // a box of "Swap Letters"
+    {"SwapLetters", boxes, InFrame3Or4, BoxFlag<&Board::SwapLetters>, Holds<LetterIsHeld>,
+        SwapLetters_Click},
+    // "<"
+    {"Command4", 0, inFrame4, ButtonFlag<&Board::Command4>, Holds<RowIsFull>,
+        Plain<Command4_Click>},
+    // ">"
+    {"Command5", 0, inFrame4, ButtonFlag<&Board::Command5>, Holds<RowIsFull>,
+        Plain<Command5_Click>},
+    // "Mix Letters"
+    {"Command6", 0, inFrame4, ButtonFlag<&Board::Command6>, Holds<RowIsFull>,
+        Plain<Command6_Click>},
+    // "Rotate Swap Letters"
+    {"Command15", 0, inFrame4, Always, Holds<SwapRowTakesClicks>, Plain<Command15_Click>},
+    // "+"
+    {"Command16", 0, inFrame4, ButtonFlag<&Board::Command16>, Always, Plain<Command16_Click>},
+    // "Lay Out Word"
+    {"Command9", 0, inFrame4, ButtonFlag<&Board::Command9>, Holds<RowIsFull>,
+        Plain<Command9_Click>},
+    // a box above "Lay Out Word"
+    {"Text2", boxes, inFrame4, BoxFlag<&Board::Text2>, LetterWaits, Text2_Click},
+    // "Submit Word"
+    {"Command3", 0, inFrame4, Always, Always, Plain<Command3_Click>},
+    // "Pass"
+    {"Command13", 0, inFrame4, Always, Always, Plain<Command13_Click>},
+    // "Jumble"
+    {"Command14", 0, inFrame4, Always, Always, Plain<Command14_Click>},
+    // a box of hidden word 1
+    {"Word1", boxes, inFrame2, BoxFlag<&Board::Word1>, Hidden<1>, Word1_Click},
+    // a box of hidden word 2
+    {"Word2", boxes, inFrame2, BoxFlag<&Board::Word2>, Hidden<2>, Word2_Click},
+    // a box of hidden word 3
+    {"Word3", boxes, inFrame2, BoxFlag<&Board::Word3>, Hidden<3>, Word3_Click},
+    // "Make A Guess"
+    {"Command7", 0, inFrame2, Always, Always, Plain<Command7_Click>},
+    // "Give In"
+    {"Command10", 0, inFrame2, Always, Always, Plain<Command10_Click>},
 };
 
 } // namespace

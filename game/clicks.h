@@ -13,6 +13,9 @@ struct Click {
     int Boxes; // how many boxes bear that name, numbered from 1; 0 for a single control
     bool (*OnView)(const Board& board, std::int16_t Index); // false while its frame is hidden
     bool (*Enabled)(const Board& board, std::int16_t Index);
+    // False while the handler would return with nothing done and nothing said. It tells, and keeps
+    // no click away.
+    bool (*Works)(const Board& board, std::int16_t Index);
     void (*Handler)(Game& game, std::int16_t Index);
 };
 

@@ -2,6 +2,7 @@
 
 #include "game/board.h"
 #include "game/game.h"
+#include "game/moving_letters.h"
 #include "game/rows.h"
 
 #include <utility>
@@ -10,7 +11,7 @@
 void Command9_Click(Game& game)
 {
     Board& board = game.board;
-    if (HasEmptyBox(board.Text1))
+    if (!RowIsFull(board))
         return;
     for (Button* button : ArrangingButtons(board))
         button->Enabled = false;
@@ -24,10 +25,15 @@ void Command9_Click(Game& game)
 void Text2_Click(Game& game, std::int16_t Index)
 {
     Board& board = game.board;
-    if (board.Text2(Index).Text.empty())
+    if (!LetterWaits(board, Index))
         return;
     board.Text1(board.LayOutNext).Text = std::exchange(board.Text2(Index).Text, "");
     ++board.LayOutNext;
     if (board.LayOutNext > lettersPerWord)
         EnableArranging(board);
+}
+
+bool LetterWaits(const Board& board, std::int16_t Index)
+{
+    return !board.Text2(Index).Text.empty();
 }

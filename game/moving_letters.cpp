@@ -19,6 +19,30 @@ void LetGo(Board& board)
 
 } // namespace
 
+// A go that was passed in the middle of a laying out leaves letters above the row. They go on into
+// fixed places, so a letter moved meanwhile would be written over.
+bool NothingWaitsAbove(const Board& board)
+{
+    return !HoldsLetters(board.Text2);
+}
+
+// An empty box can be lifted too, and takes a letter from the swap row.
+bool LetterIsHeld(const Board& board)
+{
+    return board.HeldIndex >= 1;
+}
+
+// A gap would move with the letters, and the letter that belongs there would not.
+bool RowIsFull(const Board& board)
+{
+    return !HasEmptyBox(board.Text1);
+}
+
+bool SwapRowTakesClicks(const Board& board)
+{
+    return board.SwapLetters(1).Enabled;
+}
+
 // After "+" the red letter turns with the row. A laying out disables "+" as well, but then "Lay Out
 // Word" is disabled with it.
 bool RedLetterTurnsToo(const Board& board)
@@ -30,9 +54,7 @@ bool RedLetterTurnsToo(const Board& board)
 void Text1_Click(Game& game, std::int16_t Index)
 {
     Board& board = game.board;
-    // A go that was passed in the middle of a laying out leaves letters above the row. They go on
-    // into fixed places, so a letter moved meanwhile would be written over.
-    if (HoldsLetters(board.Text2))
+    if (!NothingWaitsAbove(board))
         return;
     if (board.HeldLetter.empty()) {
         board.HeldLetter = board.Text1(Index).Text;
@@ -50,7 +72,7 @@ void Text1_Click(Game& game, std::int16_t Index)
 void SwapLetters_Click(Game& game, std::int16_t Index)
 {
     Board& board = game.board;
-    if (board.HeldIndex < 1)
+    if (!LetterIsHeld(board))
         return;
     board.Text1(board.HeldIndex).Text = board.SwapLetters(Index).Text;
     board.SwapLetters(Index).Text = board.HeldLetter;
@@ -63,8 +85,7 @@ void SwapLetters_Click(Game& game, std::int16_t Index)
 void Command4_Click(Game& game)
 {
     Board& board = game.board;
-    // A gap would move with the letters, and the letter that belongs there would not.
-    if (HasEmptyBox(board.Text1))
+    if (!RowIsFull(board))
         return;
     for (int i = 1; i < lettersPerWord; ++i)
         std::swap(board.Text1(i).Text, board.Text1(i + 1).Text);
@@ -76,7 +97,7 @@ void Command4_Click(Game& game)
 void Command5_Click(Game& game)
 {
     Board& board = game.board;
-    if (HasEmptyBox(board.Text1))
+    if (!RowIsFull(board))
         return;
     for (int i = lettersPerWord - 1; i >= 1; --i)
         std::swap(board.Text1(i).Text, board.Text1(i + 1).Text);
@@ -95,7 +116,7 @@ void Command16_Click(Game& game)
 void Command6_Click(Game& game)
 {
     Board& board = game.board;
-    if (HasEmptyBox(board.Text1))
+    if (!RowIsFull(board))
         return;
     std::string pool = Spell(board.Text1);
     for (LetterBox& box : board.Text1)
@@ -106,7 +127,7 @@ void Command6_Click(Game& game)
 void Command15_Click(Game& game)
 {
     Board& board = game.board;
-    if (!board.SwapLetters(1).Enabled)
+    if (!SwapRowTakesClicks(board))
         return;
     for (int i = 1; i < lettersPerWord; ++i)
         std::swap(board.SwapLetters(i).Text, board.SwapLetters(i + 1).Text);

@@ -14,5 +14,11 @@ void Command16_Click(Game& game);                       // "+"
 void Command6_Click(Game& game);                        // "Mix Letters"
 void Command15_Click(Game& game);                       // "Rotate Swap Letters"
 
+// Whether clicks do something now.
+bool NothingWaitsAbove(const Board& board);  // a box of "Your Letters"
+bool LetterIsHeld(const Board& board);       // a box of "Swap Letters"
+bool RowIsFull(const Board& board);          // "<", ">", "Mix Letters" and "Lay Out Word"
+bool SwapRowTakesClicks(const Board& board); // "Rotate Swap Letters"
+
 // True when "<" and ">" run through the red letter: after "+", until "Lay Out Word" takes it back.
 bool RedLetterTurnsToo(const Board& board);
