@@ -1,6 +1,7 @@
 #include "headless/board_check.h"
 
 #include "game/board.h"
+#include "game/hidden_words.h"
 #include "game/numbers.h"
 #include "game/rows.h"
 #include "lexicon/letters.h"
@@ -48,11 +49,10 @@ bool LedgerIsTheList(const Board& board)
 
 bool ShownLettersAreHidden(const Board& board)
 {
-    const LetterRow* const rows[] = {&board.Word1, &board.Word2, &board.Word3};
-    for (int word = 1; word <= 3; ++word) {
+    for (const HiddenWord& word : hiddenWords) {
         for (int k = 1; k <= lettersPerWord; ++k) {
-            const std::string& shown = (*rows[word - 1])(k).Text;
-            if (!shown.empty() && shown != LetterOf(board.HiddenWords(word), k))
+            const std::string& shown = (board.*word.Shown)(k).Text;
+            if (!shown.empty() && shown != LetterOf(board.HiddenWords(word.Number), k))
                 return false;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "game/board.h"
 #include "game/clicks.h"
+#include "game/hidden_words.h"
 #include "game/rows.h"
 #include "game/scoring.h"
 #include "headless/script_error.h"
@@ -181,7 +182,16 @@ struct Part {
     std::function<void(Board&, const std::string&)> set;
 };
 
-Part Rows(const char* key, const std::vector<LetterRow Board::*>& rows)
+using RowsOfBoard = std::vector<LetterRow Board::*>;
+
+RowsOfBoard OfHiddenWords(LetterRow Board::* HiddenWord::* row)
+{
+    RowsOfBoard rows;
+    std::ranges::transform(hiddenWords, std::back_inserter(rows), row);
+    return rows;
+}
+
+Part Rows(const char* key, const RowsOfBoard& rows)
 {
     return {key,
         [rows](const Board& board) {
@@ -250,8 +260,8 @@ const Part parts[] = {
             return board.HiddenWords(1) + "/" + board.HiddenWords(2) + "/" + board.HiddenWords(3);
         },
         SetHidden},
-    Rows("shown=", {&Board::Word1, &Board::Word2, &Board::Word3}),
-    Rows("guess=", {&Board::Text6, &Board::Text7, &Board::Text8}),
+    Rows("shown=", OfHiddenWords(&HiddenWord::Shown)),
+    Rows("guess=", OfHiddenWords(&HiddenWord::Guess)),
     Count("next:", &Board::LayOutNext, 0, lettersPerWord + 1),
     Count("fruitless:", &Board::FruitlessSwaps, 0, 4),
     Count("level:", &Board::Level, 0, levels),

@@ -1,14 +1,13 @@
 #include "headless/headless_game.h"
 
 #include "game/clicks.h"
+#include "game/hidden_words.h"
 #include "game/rows.h"
 #include "game/start_of_game.h"
 #include "headless/board_check.h"
 #include "headless/board_text.h"
-#include "headless/script.h"
 
 #include <algorithm>
-#include <sstream>
 #include <utility>
 
 namespace {
@@ -66,13 +65,6 @@ void HeadlessGame::Play(const Event& event)
     }
 }
 
-void HeadlessGame::Play(std::string_view events)
-{
-    std::istringstream words{std::string(events)};
-    for (std::string word; words >> word;)
-        Play(ReadEvent(word));
-}
-
 void HeadlessGame::Click(std::string_view control, std::int16_t index)
 {
     const ::Click& click = *FindClick(control);
@@ -102,8 +94,7 @@ void HeadlessGame::Click(std::string_view control, std::int16_t index)
 
 void HeadlessGame::Type(std::string_view row, int index, const std::string& text)
 {
-    LetterRow& boxes = row == "Text6" ? board.Text6 : row == "Text7" ? board.Text7 : board.Text8;
-    boxes(index).Text = text;
+    (board.*FindGuessed(row)->Guess)(index).Text = text;
 }
 
 void HeadlessGame::Tick(bool ticked)

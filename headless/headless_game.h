@@ -46,9 +46,6 @@ public:
     // Plays on; after the end of the program it is started again. After a fault nothing is played.
     void Play(const Event& event);
 
-    // The same for the words of a script, "Text1:4 Command3". Throws ScriptError.
-    void Play(std::string_view events);
-
     // Steps of an event, which a game in a window takes by mouse and keys: a click, 0 for a single
     // control, which tells when it is refused; a text in a box of the guess; "Show Responses".
     virtual void Click(std::string_view control, std::int16_t index = 0);

@@ -2,6 +2,7 @@
 
 #include "game/clicks.h"
 #include "game/computer_go.h"
+#include "game/hidden_words.h"
 #include "game/rows.h"
 #include "headless/board_text.h"
 #include "headless/spelling.h"
@@ -12,10 +13,6 @@
 
 namespace {
 
-using Run = std::function<void(HeadlessGame& game)>;
-
-constexpr std::string_view guessRows[] = {"Text6", "Text7", "Text8"};
-
 std::string WithBlanks(std::string text)
 {
     std::ranges::replace(text, '_', ' ');
@@ -25,9 +22,12 @@ std::string WithBlanks(std::string text)
 void TypeHiddenWords(HeadlessGame& game)
 {
     const Board& board = game.board;
-    for (int word = 1; word <= 3 && board.Frame2.Visible && !board.HiddenWords(1).empty(); ++word)
+    if (!board.Frame2.Visible || board.HiddenWords(1).empty())
+        return;
+    for (const HiddenWord& word : hiddenWords)
         for (int k = 1; k <= lettersPerWord; ++k)
-            game.Type(guessRows[word - 1], k, std::string(LetterOf(board.HiddenWords(word), k)));
+            game.Type(
+                word.GuessControl, k, std::string(LetterOf(board.HiddenWords(word.Number), k)));
 }
 
 // Submits the pick-th candidate, or the next that is in reach. Every eighth time it may be a used
@@ -58,7 +58,7 @@ Run ReadTyping(const std::string& control, const std::string& box, const std::st
                 game.Tick(tick == 1);
         };
     }
-    Demand(std::ranges::count(guessRows, control) == 1, "nothing can be typed into " + control);
+    Demand(FindGuessed(control) != nullptr, "nothing can be typed into " + control);
     const int index = ReadNumber(box, 1, lettersPerWord);
     return [=](HeadlessGame& game) {
         if (game.board.Frame2.Visible)
@@ -78,30 +78,53 @@ Run ReadClick(const std::string& control, const std::string& box, bool hasBox)
     return [click, index](HeadlessGame& game) { game.Click(click->Control, index); };
 }
 
-// What the word does: NAME, NAME:BOX, NAME=TEXT or NAME:BOX=TEXT.
-Run ReadDoing(const std::string& word)
+template <auto run> Run ReadNothing(const std::string& rest)
 {
-    const std::size_t equals = word.find('=');
-    const std::string left = word.substr(0, equals);
-    const std::size_t colon = left.find(':');
-    const bool hasBox = colon != std::string::npos;
-    const std::string name = left.substr(0, colon);
-    const std::string box = hasBox ? left.substr(colon + 1) : "";
-    if (equals != std::string::npos)
+    Demand(rest.empty(), "nothing may follow");
+    return [](HeadlessGame& game) { run(game); };
+}
+
+template <Answer answer> void LayBy(HeadlessGame& game)
+{
+    game.view.answers.push_back(answer);
+}
+
+void PlayComputersGo(HeadlessGame& game)
+{
+    Command8_Click(game.game);
+}
+
+Run ReadPick(const std::string& rest)
+{
+    const int pick = ReadNumber(rest, 0, 9999);
+    return [pick](HeadlessGame& game) { SubmitWord(game, pick); };
+}
+
+constexpr EventWord ownWords[] = {
+    {"word", ReadPick},
+    {"right", ReadNothing<TypeHiddenWords>},
+    {"computer", ReadNothing<PlayComputersGo>},
+    {"yes", ReadNothing<LayBy<Answer::Yes>>},
+    {"no", ReadNothing<LayBy<Answer::No>>},
+};
+
+// What the word does: NAME, NAME:REST, NAME=TEXT or NAME:BOX=TEXT.
+Run ReadDoing(const std::string& word, EventWords more)
+{
+    const std::size_t colon = std::min(word.find(':'), word.size());
+    const std::string rest = word.substr(std::min(colon + 1, word.size()));
+    for (const EventWords& words : {EventWords(ownWords), more}) {
+        const auto known
+            = std::ranges::find(words, std::string_view(word).substr(0, colon), &EventWord::name);
+        if (known != words.end())
+            return known->read(rest);
+    }
+    const std::size_t equals = std::min(word.find('='), word.size());
+    const std::string name = word.substr(0, std::min(colon, equals));
+    const std::string box = colon < equals ? word.substr(colon + 1, equals - colon - 1) : "";
+    if (equals < word.size())
         return ReadTyping(name, box, word.substr(equals + 1));
-    if (name == "word") {
-        const int pick = ReadNumber(box, 0, 9999);
-        return [pick](HeadlessGame& game) { SubmitWord(game, pick); };
-    }
-    if (word == "yes" || word == "no") {
-        const Answer answer = word == "yes" ? Answer::Yes : Answer::No;
-        return [answer](HeadlessGame& game) { game.view.answers.push_back(answer); };
-    }
-    if (word == "right")
-        return TypeHiddenWords;
-    if (word == "computer")
-        return [](HeadlessGame& game) { Command8_Click(game.game); };
-    return ReadClick(name, box, hasBox);
+    return ReadClick(name, box, colon < equals);
 }
 
 // "0", ".5", "<1", "2/6", with "18*" before it for eighteen of them.
@@ -162,11 +185,11 @@ Run ReadBoard(const std::string& rest)
     return [rest](HeadlessGame& game) { SetBoard(game.board, rest); };
 }
 
-Run ReadLine(const std::string& verb, const std::string& rest)
+Run ReadLine(const std::string& verb, const std::string& rest, EventWords more)
 {
     if (verb == "do") {
-        return ReadEach(rest, [](const std::string& word) -> Run {
-            return [event = ReadEvent(word)](HeadlessGame& game) { game.Play(event); };
+        return ReadEach(rest, [more](const std::string& word) -> Run {
+            return [event = ReadEvent(word, more)](HeadlessGame& game) { game.Play(event); };
         });
     }
     if (verb == "draws")
@@ -185,13 +208,20 @@ Run ReadLine(const std::string& verb, const std::string& rest)
 
 } // namespace
 
-Event ReadEvent(const std::string& word)
+Event ReadEvent(const std::string& word, EventWords more)
 {
     const bool waits = word.starts_with('~');
-    return {ReadDoing(word.substr(waits ? 1 : 0)), waits};
+    return {ReadDoing(word.substr(waits ? 1 : 0), more), waits};
 }
 
-std::vector<Script> ReadScripts(std::istream& stream, const std::string& file)
+void PlayEvents(HeadlessGame& game, const std::string& events, EventWords more)
+{
+    std::istringstream words(events);
+    for (std::string word; words >> word;)
+        game.Play(ReadEvent(word, more));
+}
+
+std::vector<Script> ReadScripts(std::istream& stream, const std::string& file, EventWords more)
 {
     std::vector<Script> scripts;
     int number = 0;
@@ -209,7 +239,7 @@ std::vector<Script> ReadScripts(std::istream& stream, const std::string& file)
                 scripts.back().name = rest;
             else
                 scripts.back().lines.push_back(
-                    {line, verb == ">" || verb == "=" ? nullptr : ReadLine(verb, rest)});
+                    {line, verb == ">" || verb == "=" ? nullptr : ReadLine(verb, rest, more)});
         } catch (const ScriptError& error) {
             throw ScriptError(file + ":" + std::to_string(number) + ": " + error.what());
         }

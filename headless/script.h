@@ -19,6 +19,7 @@
 //   computer            a go of the computer
 //   yes no              an answer laid by for a question; one that finds none gets Yes
 //   ~Text1:4            any of these, but waiting for the next repaint
+// A game of another kind brings words of its own, as in "key:Left".
 #pragma once
 
 #include "headless/headless_game.h"
@@ -26,12 +27,23 @@
 
 #include <functional>
 #include <istream>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
+
+using Run = std::function<void(HeadlessGame& game)>;
+
+// A word with what it does. It is given the rest, "Left" of "key:Left", and "" when there is none.
+struct EventWord {
+    std::string_view name;
+    Run (*read)(const std::string& rest); // throws ScriptError
+};
+using EventWords = std::span<const EventWord>;
 
 struct ScriptLine {
     std::string text;
-    std::function<void(HeadlessGame& game)> run; // none where it tells what is expected
+    Run run; // none where it tells what is expected
 };
 
 struct Script {
@@ -40,11 +52,15 @@ struct Script {
 };
 
 // Throws ScriptError with file, line and word: "moves.txt:3: Comand4: no such event".
-std::vector<Script> ReadScripts(std::istream& stream, const std::string& file);
+std::vector<Script> ReadScripts(
+    std::istream& stream, const std::string& file, EventWords more = {});
 
 // Runs a script that stands alone. Throws ScriptError before anything is run, but for a board that
 // cannot be played on when its line is reached.
 void RunScript(HeadlessGame& game, const std::string& text);
 
-// Throws ScriptError with the word.
-Event ReadEvent(const std::string& word);
+// Throws ScriptError.
+Event ReadEvent(const std::string& word, EventWords more = {});
+
+// Plays events, "Text1:4 Command3". Throws ScriptError when one is reached that says nothing.
+void PlayEvents(HeadlessGame& game, const std::string& events, EventWords more = {});

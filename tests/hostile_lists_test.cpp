@@ -1,7 +1,7 @@
 // Word lists that nobody would write, and lists that change while they are read: a game that keeps
 // its rules, or the one message and the end.
 
-#include "headless/headless_game.h"
+#include "headless/script.h"
 #include "lexicon/lexicon_file.h"
 
 #include <gtest/gtest.h>
@@ -29,13 +29,13 @@ bool Starts(const Path& path, int draw = 0, const std::function<void()>& happeni
         if (game.platform.taken == draw)
             happening();
     };
-    game.Play("Option1:1 Command1");
+    PlayEvents(game, "Option1:1 Command1");
     const bool started = !game.Ended();
     if (!started) {
         EXPECT_EQ(game.view.calls.back(),
             "Quorvel2: The file Lexicon.txt must be in the C:\\ Directory (Folder)");
     }
-    game.Play("word:1 Command13 Command14");
+    PlayEvents(game, "word:1 Command13 Command14");
     EXPECT_EQ(game.FirstFault(), "");
     return started;
 }
@@ -124,7 +124,7 @@ TEST(HostileLists, DrawingEndsAfterSoManyBytes)
     for (const Row& row : rows) {
         const WordListFile list(row.bytes);
         HeadlessGame game(list.Path(), HeadlessPlatform(1));
-        game.Play("Option1:1 Command1");
+        PlayEvents(game, "Option1:1 Command1");
         EXPECT_EQ(!game.Ended(), row.starts) << row.list;
         EXPECT_LE(game.platform.taken, row.mostDraws) << row.list;
     }

@@ -29,7 +29,7 @@ TEST(StartOfGame, TakesItsSeedFromTheClock)
     HeadlessPlatform steady(6);
     steady.SeedRandom(6);
     HeadlessGame game("", HeadlessPlatform(6));
-    game.Play("Command1"); // with no level too
+    PlayEvents(game, "Command1"); // with no level too
     EXPECT_EQ(game.platform.DrawRandom(), steady.DrawRandom());
 }
 

@@ -1,6 +1,7 @@
 #include "window_fixture.h"
 
 #include "game/clicks.h"
+#include "headless/script.h"
 #include "ui/binding.h"
 #include "ui/board_style.h"
 
@@ -148,7 +149,7 @@ void Window::Play(const std::string& words)
             SetBoard(board, word);
             window.ShowBoard();
         } else {
-            HeadlessGame::Play(word);
+            PlayEvents(*this, word);
         }
         ExpectBoardOnView(word + " of " + words);
     }

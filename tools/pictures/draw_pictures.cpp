@@ -61,11 +61,11 @@ void DrawGo(const char* wordList, const QString& files)
     MainWindow window(game.game);
     window.show();
     Draw(window, files.arg(QStringLiteral("level-panel")));
-    game.Play("Option1:4 Command1");
+    PlayEvents(game, "Option1:4 Command1");
     SetBoard(game.board, lettersOfAGo);
     int picture = 0;
     for (const char* events : aGo) {
-        game.Play(events);
+        PlayEvents(game, events);
         window.ShowBoard();
         Draw(window, files.arg(QStringLiteral("go-%1").arg(++picture)), letters);
     }
@@ -77,7 +77,7 @@ void DrawDesktop(const char* wordList, const QString& file, const QPalette& desk
     HeadlessGame game(wordList, HeadlessPlatform(36000));
     MainWindow window(game.game);
     window.show();
-    game.Play(gameInProgress);
+    PlayEvents(game, gameInProgress);
     window.ShowBoard();
     Draw(window, file);
 }

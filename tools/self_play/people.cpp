@@ -3,6 +3,8 @@
 //
 //   people WORD_LIST DATA   prints two tables, and writes the shares that levels.gnuplot draws
 #include "game/board.h"
+#include "game/buying_letters.h"
+#include "game/hidden_words.h"
 #include "game/numbers.h"
 #include "game/rows.h"
 #include "headless/headless_game.h"
@@ -24,7 +26,6 @@ namespace {
 constexpr std::uint32_t openings = 1000;
 constexpr std::uint32_t games = 200; // of each person at each level
 constexpr int mostGoes = 300;
-constexpr double letterPrice = 100;
 
 using Words = std::vector<std::string>;
 using Trios = std::vector<std::array<std::string, 3>>;
@@ -65,8 +66,7 @@ Trios FindAnswers(const Board& board, const Words& known)
     std::map<std::string, Words> thirds;
     for (const std::string& word : known) {
         for (std::size_t k = 0; k < 3; ++k) {
-            const LetterRow* const rows[] = {&board.Word1, &board.Word2, &board.Word3};
-            if (Shows(*rows[k], word))
+            if (Shows(board.*hiddenWords[k].Shown, word))
                 fitting[k].push_back(word);
         }
     }
@@ -142,7 +142,7 @@ private:
         while (person_.buys && answers.size() > person_.guesses
             && NumberOf(board.YourScore.Text) >= 2 * letterPrice) {
             const auto box = static_cast<std::int16_t>(luck_() % lettersPerWord + 1);
-            Click({std::array{"Word1", "Word2", "Word3"}[luck_() % 3], box});
+            Click({hiddenWords[luck_() % 3].ShownControl, box});
             answers = FindAnswers(board, known_);
         }
         std::erase_if(answers, [this](const auto& answer) { return tried_.contains(answer); });
@@ -151,10 +151,9 @@ private:
             return;
         for (const auto& answer : answers) {
             tried_.insert(answer);
-            LetterRow* const rows[] = {&board.Text6, &board.Text7, &board.Text8};
             for (std::size_t row = 0; row < 3; ++row) {
                 for (int k = 1; k <= lettersPerWord; ++k)
-                    (*rows[row])(k).Text = LetterOf(answer[row], k);
+                    (board.*hiddenWords[row].Guess)(k).Text = LetterOf(answer[row], k);
             }
             Click({"Command7"}); // "Make A Guess"
             if (game_.Ended())
