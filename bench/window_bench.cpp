@@ -6,10 +6,10 @@
 #include "bench/plain_window.h"
 #include "game/board.h"
 #include "game/game.h"
-#include "ui/board_style.h"
-#include "ui/main_window.h"
-#include "ui/qt_view.h"
+#include "ui/qt/board_style.h"
+#include "ui/qt/main_window.h"
 #include "ui/system_platform.h"
+#include "ui/view.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -102,11 +102,11 @@ int Show(QWidget& window, const QString& mode, const std::function<void()>& begi
 int ShowGame(const char* wordList, const QString& mode)
 {
     Board board;
-    QtView view;
+    View view;
     SystemPlatform platform;
     Game game{board, view, platform, wordList};
     MainWindow window(game);
-    view.PlayIn(window);
+    view.PlayIn(window.InSession());
     return Show(window, mode, [&] { StartGame(window); });
 }
 

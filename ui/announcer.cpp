@@ -1,12 +1,10 @@
 #include "ui/announcer.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
-#include <QWidget>
+#include "game/board.h"
+#include "ui/front_end.h"
 
+#include <algorithm>
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,67 +13,41 @@ namespace {
 constexpr int pauseAfterMessage = 200;
 constexpr int pauseAfterFrames = 1000;
 
-class Notice : public QWidget {
-public:
-    explicit Notice(QWidget* window)
-        : QWidget(window)
-    {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setGeometry(0, 0, 1, 1); // what has no size is not on view, and is not read
-    }
-};
-
-// To the toolkit a plain widget is a filler, and that is what a window and a notice would be
-// called.
-QAccessibleInterface* GiveRole(const QString& className, QObject* object)
-{
-    if (className != "QWidget"_L1)
-        return nullptr;
-    auto* widget = static_cast<QWidget*>(object);
-    if (dynamic_cast<Notice*>(widget) != nullptr)
-        return new QAccessibleWidget(widget, QAccessible::Notification);
-    return widget->isWindow() ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
-}
-
 } // namespace
 
-Announcer::Announcer(QWidget& window, const Board& board)
-    : notice_(new Notice(&window))
-    , board_(board)
-    , told_(Hear(board))
-    , seen_(told_)
+Announcer::Announcer(const Board& board, FrontEnd& front)
+    : board_(board)
+    , front_(front)
+    , told_(std::make_unique<Board>(board))
+    , seen_(std::make_unique<Board>(board))
 {
-    QAccessible::installFactory(GiveRole);
-    // The title is long and is read again after every message; it is told once, when it changes.
-    window.setAccessibleName(u"Quorvel2"_s);
-    timer_.setSingleShot(true);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Tell(); });
 }
+
+Announcer::~Announcer() = default;
 
 void Announcer::Look()
 {
-    waiting_ += PlayedSince(seen_, board_);
-    const Heard now = Hear(board_);
-    goHasPassed_ = goHasPassed_ || !now.YourGo;
+    const News played = PlayedSince(*seen_, board_);
+    waiting_.insert(waiting_.end(), played.begin(), played.end());
+    goHasPassed_ = goHasPassed_ || !board_.Label5.Visible;
     // The end of a game sets the scores back as the level panel comes; the last ones count.
-    if (now.LevelPanel && !seen_.LevelPanel && now.GameFrames)
-        waiting_ += ScoresOf(seen_);
-    if (now.GameFrames != seen_.GameFrames)
-        quiet_.setRemainingTime(pauseAfterFrames);
-    seen_ = now;
+    if (board_.Frame1.Visible && !seen_->Frame1.Visible && board_.Frame2.Visible)
+        waiting_.push_back(ScoresOf(*seen_));
+    if (board_.Frame2.Visible != seen_->Frame2.Visible)
+        quietUntil_ = front_.Milliseconds() + pauseAfterFrames;
+    *seen_ = board_;
     Wake();
 }
 
-void Announcer::Say(const QString& text)
+void Announcer::Say(const std::string& text)
 {
-    waiting_ += text;
+    waiting_.push_back(text);
     Wake();
 }
 
 void Announcer::BeginHandler()
 {
     ++handlers_;
-    timer_.stop();
 }
 
 void Announcer::EndHandler()
@@ -86,32 +58,27 @@ void Announcer::EndHandler()
 
 void Announcer::AfterMessage()
 {
-    quiet_.setRemainingTime(pauseAfterMessage);
+    quietUntil_ = front_.Milliseconds() + pauseAfterMessage;
 }
 
 void Announcer::Wake()
 {
     if (handlers_ == 0)
-        timer_.start(static_cast<int>(quiet_.remainingTime()));
+        front_.WakeAfter(
+            static_cast<int>(std::max<std::int64_t>(0, quietUntil_ - front_.Milliseconds())));
 }
 
 void Announcer::Tell()
 {
-    const Heard now = Hear(board_);
-    const QStringList news
-        = std::exchange(waiting_, {}) + NewsSince(told_, now, std::exchange(goHasPassed_, false));
-    told_ = now;
-    if (!news.isEmpty())
-        Speak(news.join(u". "_s));
-}
-
-void Announcer::Speak(const QString& text)
-{
-    notice_->setAccessibleName(text);
-#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleEvent said(notice_, QAccessible::ObjectShow); // a notice is read as it shows
-#else
-    QAccessibleAnnouncementEvent said(notice_, text);
-#endif
-    QAccessible::updateAccessibility(&said);
+    if (handlers_ != 0)
+        return;
+    News news = std::exchange(waiting_, {});
+    const News since = NewsSince(*told_, board_, std::exchange(goHasPassed_, false));
+    news.insert(news.end(), since.begin(), since.end());
+    *told_ = board_;
+    std::string text;
+    for (const std::string& line : news)
+        text += text.empty() ? line : ". " + line;
+    if (!text.empty())
+        front_.Say(text);
 }

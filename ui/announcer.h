@@ -1,44 +1,46 @@
-// The one place that speaks to a screen reader of itself. What the player would see happen is said
-// once, in the order in which it happens, when the event that it happens in has ended.
+// When a screen reader is told what is new: once, in the order in which it happens, when the event
+// that it happens in has ended.
 #pragma once
 
 #include "ui/news.h"
 
-#include <QDeadlineTimer>
-#include <QTimer>
+#include <cstdint>
+#include <memory>
+#include <string>
 
-class QWidget;
+class FrontEnd;
 
 class Announcer {
 public:
-    // Both outlive this. To come before anything else stands in the window.
-    Announcer(QWidget& window, const Board& board);
+    // Both outlive this.
+    Announcer(const Board& board, FrontEnd& front);
+    ~Announcer();
 
-    // Looks at the board, which is shown at this moment.
+    // The board is shown as it is at this moment.
     void Look();
 
-    // Says the text as well.
-    void Say(const QString& text);
+    // Tells the text as well.
+    void Say(const std::string& text);
 
-    // Nothing is said between a handler's start and its end. Handlers can run inside each other.
+    // Nothing is told between a handler's start and its end. Handlers can run inside each other.
     void BeginHandler();
     void EndHandler();
 
     // A message has been answered.
     void AfterMessage();
 
+    // The front end wakes it, as it has asked for.
+    void Tell();
+
 private:
     void Wake();
-    void Tell();
-    void Speak(const QString& text);
 
-    QWidget* notice_; // bears what was said last as its name
     const Board& board_;
-    Heard told_; // when something was said last
-    Heard seen_; // when the board was shown last
-    QStringList waiting_;
+    FrontEnd& front_;
+    std::unique_ptr<Board> told_; // as it was when something was told last
+    std::unique_ptr<Board> seen_; // as it was shown last
+    News waiting_;
     bool goHasPassed_ = false;
     int handlers_ = 0; // under way
-    QDeadlineTimer quiet_;
-    QTimer timer_;
+    std::int64_t quietUntil_ = 0; // by the front end's clock
 };

@@ -30,22 +30,11 @@ constexpr BoundField boundFields[] = {
     {"Label5", &Board::Label5},
 };
 
-constexpr GuessedWord guessedWords[] = {
-    {"Text6", &Board::Text6, &Board::Word1},
-    {"Text7", &Board::Text7, &Board::Word2},
-    {"Text8", &Board::Text8, &Board::Word3},
-};
-
 } // namespace
 
 std::span<const BoundField> BoundFields()
 {
     return boundFields;
-}
-
-std::span<const GuessedWord> GuessedWords()
-{
-    return guessedWords;
 }
 
 const Field* FindField(std::string_view control)

@@ -17,16 +17,6 @@ struct BoundField {
 
 std::span<const BoundField> BoundFields();
 
-// A hidden word: the row that the guess at it is typed in, and the row that shows its letters.
-struct GuessedWord {
-    std::string_view Control; // of the guess
-    LetterRow Board::* Guess;
-    LetterRow Board::* Shown;
-};
-
-// From the first word to the third.
-std::span<const GuessedWord> GuessedWords();
-
 // The field of that control, or nullptr when nothing of it changes with the board, beside what the
 // table of clicks says of it.
 const Field* FindField(std::string_view control);

@@ -1,25 +1,39 @@
 #include "ui/focus.h"
 
 #include "game/board.h"
-#include "ui/guess_box.h"
-#include "ui/letter_tile.h"
+#include "ui/news.h"
+#include "ui/part.h"
 #include "ui/roster.h"
 
 #include <algorithm>
-#include <map>
+#include <cstddef>
+#include <vector>
 
 namespace {
 
-// The board's word on every frame around the control, and on the control itself.
-bool IsInPlay(const Controls& controls, const Board& board, const QWidget& widget)
+// All boxes of the row in its order, wherever in the roster they stand; a single control alone.
+std::vector<const Part*> RowOf(std::string_view name)
 {
-    for (const QWidget* part = &widget; part != nullptr; part = part->parentWidget()) {
-        const auto control = std::find_if(controls.begin(), controls.end(),
-            [part](const BuiltControl& built) { return built.Widget == part; });
-        if (control != controls.end() && !(IsOnView(*control, board) && IsEnabled(*control, board)))
-            return false;
+    std::vector<const Part*> row;
+    for (const Part& part : Parts()) {
+        if (name == part.Row->Name)
+            row.push_back(&part);
     }
-    return true;
+    std::ranges::sort(row, {}, &Part::Number);
+    return row;
+}
+
+// Where the Tab key stops in the row: at its stop, or at the first in sight to the right of a stop
+// that something covers. nullptr where the stop, or all that follows, is out of reach.
+const Part* StopIn(std::string_view name, const TabStops& stops, const Board& board)
+{
+    bool passed = false;
+    for (const Part* part : RowOf(name)) {
+        passed = passed || stops.IsAt(*part, board);
+        if (passed && IsInReach(*part, board))
+            return part;
+    }
+    return nullptr;
 }
 
 int FirstFilled(const LetterRow& row)
@@ -31,90 +45,101 @@ int FirstFilled(const LetterRow& row)
     return 0;
 }
 
+bool SwapMade(const Outcome& outcome)
+{
+    return outcome.Before.HeldFlag && !outcome.After.HeldFlag
+        && outcome.Before.SwapLetters(1).Enabled && !outcome.After.SwapLetters(1).Enabled;
+}
+
+bool GameBegun(const Outcome& outcome)
+{
+    return BeginsGame(outcome.Before, outcome.After);
+}
+
+bool GoHandedOver(const Outcome& outcome)
+{
+    return outcome.GoWentOver;
+}
+
+// What calls for the focus to go where play goes on.
+constexpr bool (*callsForPlay[])(const Outcome& outcome) = {GameBegun, GoHandedOver, SwapMade};
+
 } // namespace
 
-// By the number of the box, wherever in the roster the boxes stand.
-void JoinRows(const Controls& controls)
+void TabStops::Came(const Part& part)
 {
-    std::map<std::string_view, std::map<int, LetterTile*>> rows;
-    for (const BuiltControl& control : controls) {
-        if (control.Row->Is == Kind::LetterTile)
-            rows[control.Row->Name][control.Number] = &As<LetterTile>(control);
-    }
-    for (const auto& [name, row] : rows)
-        for (auto tile = std::next(row.begin()); tile != row.end(); ++tile)
-            tile->second->InRow().JoinTo(std::prev(tile)->second->InRow());
-
-    GuessBox* last = nullptr;
-    std::string_view above;
-    for (const GuessedWord& word : GuessedWords()) {
-        for (int number = 1; number <= lettersPerWord; ++number) {
-            auto& box = Find<GuessBox>(controls, word.Control, number);
-            if (last != nullptr)
-                box.JoinTo(*last, number > 1);
-            if (!above.empty())
-                box.StandBelow(Find<GuessBox>(controls, above, number));
-            last = &box;
-        }
-        above = word.Control;
-    }
+    boxes_[part.Row->Name] = part.Number;
 }
 
-void SetTabOrder(const Controls& controls)
+// Of the levels it is the chosen one.
+bool TabStops::IsAt(const Part& part, const Board& board) const
 {
-    QWidget* before = nullptr;
-    for (const std::string_view name : TabOrder()) {
-        std::map<int, QWidget*> boxes;
-        for (const BuiltControl& control : controls)
-            if (control.Row->Name == name)
-                boxes[control.Number] = control.Widget;
-        for (const auto& [number, widget] : boxes) {
-            if (before != nullptr)
-                QWidget::setTabOrder(before, widget);
-            before = widget;
-        }
-    }
+    if (!part.Row->Boxes)
+        return true;
+    if (part.Row->Is == Kind::Option && board.Level != 0)
+        return part.Number == board.Level;
+    const auto stop = boxes_.find(part.Row->Name);
+    return part.Number == (stop == boxes_.end() ? 1 : stop->second);
 }
 
-void FocusOnPlay(const Controls& controls, const Board& board)
+const Part* StepByTab(const Part* from, bool onwards, const TabStops& stops, const Board& board)
+{
+    const auto order = TabOrder();
+    const auto count = static_cast<std::ptrdiff_t>(order.size());
+    const auto here = std::ranges::find_if(
+        order, [from](const char* name) { return from != nullptr && name == std::string_view(from->Row->Name); });
+    std::ptrdiff_t place = here == order.end() ? (onwards ? -1 : count) : here - order.begin();
+    for (std::ptrdiff_t step = 0; step < count; ++step) {
+        place = (place + (onwards ? 1 : count - 1)) % count;
+        const Part* next = StopIn(order[static_cast<std::size_t>(place)], stops, board);
+        if (next != nullptr && next != from)
+            return next;
+    }
+    return nullptr;
+}
+
+const Part* WalkRow(const Part& from, Key key, const Board& board)
+{
+    if (key != Key::Left && key != Key::Right && key != Key::Home && key != Key::End)
+        return nullptr;
+    std::vector<const Part*> row = RowOf(from.Row->Name);
+    if (key == Key::Left || key == Key::Home)
+        std::ranges::reverse(row);
+    const bool nearest = key == Key::Left || key == Key::Right;
+    const Part* to = nullptr;
+    for (auto part = std::ranges::find(row, &from) + 1; part != row.end(); ++part) {
+        if (IsInReach(**part, board) && !(nearest && to != nullptr))
+            to = *part;
+    }
+    return to;
+}
+
+const Part& WherePlayGoesOn(const Board& board)
 {
     if (board.Frame1.Visible)
-        Find(controls, "Option1", std::max<int>(board.Level, 1)).setFocus();
-    else if (board.Text1(1).Enabled)
-        Find(controls, "Text1", 1).setFocus();
-    else if (const int laidOut = FirstFilled(board.Text2); laidOut != 0)
-        Find(controls, "Text2", laidOut).setFocus();
-    else
-        Find(controls, "Command13").setFocus(); // "Pass"
+        return FindPart("Option1", std::max<int>(board.Level, 1));
+    if (board.Text1(1).Enabled)
+        return FindPart("Text1", 1);
+    if (const int laidOut = FirstFilled(board.Text2); laidOut != 0)
+        return FindPart("Text2", laidOut);
+    return FindPart("Command13"); // "Pass"
 }
 
-bool FocusStaysInPlay(const Controls& controls, const Board& board)
+bool StaysInPlay(const Part* focused, const Board& board)
 {
-    const QWidget& panel = Find(controls, "Frame1");
-    const QWidget* focused = panel.window()->focusWidget();
-    return focused != nullptr && IsInPlay(controls, board, *focused)
-        && (!board.Frame1.Visible || panel.isAncestorOf(focused));
+    if (focused == nullptr || !IsOnView(*focused, board) || !IsEnabled(*focused, board))
+        return false;
+    return !board.Frame1.Visible || focused->Frame == &FindPart("Frame1");
 }
 
-void FocusOnGap(const Controls& controls, const Board& board)
+bool CallsForPlay(const Outcome& outcome)
 {
-    for (int box = 1; box <= lettersPerWord; ++box) {
-        for (const GuessedWord& word : GuessedWords()) {
-            if ((board.*word.Guess)(box).Text.empty())
-                return Find(controls, word.Control, box).setFocus(Qt::TabFocusReason);
-        }
-    }
+    return std::ranges::any_of(callsForPlay, [&](auto happened) { return happened(outcome); });
 }
 
-bool StepToSight(const QWidget& window, const std::function<bool()>& step)
+// "Make A Guess" leaves the game open where words are missing or wrong.
+bool CallsForGuess(const Outcome& outcome)
 {
-    const QWidget* from = window.focusWidget();
-    bool found = false;
-    do {
-        found = step();
-        if (auto* tile = dynamic_cast<LetterTile*>(window.focusWidget()))
-            tile->InRow().StepIntoSight();
-    } while (
-        found && window.focusWidget() != from && window.focusWidget()->visibleRegion().isEmpty());
-    return found;
+    return outcome.Clicked.Row == FindPart("Command7").Row && outcome.After.Frame2.Visible
+        && !outcome.After.Frame1.Visible;
 }

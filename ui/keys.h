@@ -1,24 +1,15 @@
-// The keys that the window itself has a meaning for.
+// The keys that have a meaning of the game's own. Space, and the keys that edit a text within its
+// box, are the toolkit's.
 #pragma once
 
-#include "ui/controls.h"
+enum class Key { Left, Right, Up, Down, Home, End, Tab, BackTab, Backspace, Escape, Enter, F1 };
 
-#include <QObject>
+struct KeyPress {
+    Key Is;
+    bool Held = false; // the key repeats by itself
 
-class QKeyEvent;
-
-bool IsEnter(const QKeyEvent& key);
-
-// Enter on the level panel chooses the level that has the focus; on the chosen one it is "OK".
-// False when the key means nothing here.
-bool PressOnLevelPanel(const Controls& controls, const QKeyEvent& key);
-
-// For the whole application: a held Enter would click on and on, and answer the messages unread;
-// with this filter it counts once. A held Space does of itself.
-class HeldEnterFilter : public QObject {
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    quint64 enterReleased_ = 0; // the time of the event; 0 for none
+    // Where the cursor stands in what has the focus and has a cursor. With text selected it stands
+    // at both ends.
+    bool AtStart = true;
+    bool AtEnd = true;
 };

@@ -1,18 +1,30 @@
 #include "ui/news.h"
 
+#include "game/board.h"
+#include "game/hidden_words.h"
 #include "game/moving_letters.h"
 #include "game/numbers.h"
 #include "game/rows.h"
 
-using namespace Qt::StringLiterals;
+#include <sstream>
 
 namespace {
 
-constexpr auto noMoreSwaps = ", no more swaps this go"_L1;
+constexpr const char* noMoreSwaps = "no more swaps this go";
 
-QString Text(const std::string& text)
+void Add(News& news, const News& more)
 {
-    return QString::fromStdString(text);
+    news.insert(news.end(), more.begin(), more.end());
+}
+
+// With single blanks between its words, and none around them.
+std::string Tidied(const std::string& text)
+{
+    std::istringstream words(text);
+    std::string tidied;
+    for (std::string word; words >> word;)
+        tidied += tidied.empty() ? word : " " + word;
+    return tidied;
 }
 
 int Differing(const LetterRow& one, const LetterRow& other)
@@ -24,201 +36,178 @@ int Differing(const LetterRow& one, const LetterRow& other)
 }
 
 // "p, empty, a": letter by letter, so that no reader takes them for a word.
-QString Letters(const LetterRow& row, int first, int last, const QString& forNone)
+std::string Letters(const LetterRow& row, int first, int last, const std::string& forNone)
 {
-    QStringList letters;
+    std::string letters;
     for (int box = first; box <= last; ++box)
-        letters += row(box).Text.empty() ? forNone : Text(row(box).Text);
-    return letters.join(u", "_s);
+        letters += (box > first ? ", " : "") + (row(box).Text.empty() ? forNone : row(box).Text);
+    return letters;
 }
 
-QStringList NewRow(const QString& name, const LetterRow& told, const LetterRow& now)
+News NewRow(const std::string& name, const LetterRow& told, const LetterRow& now)
 {
     if (Differing(told, now) == 0)
         return {};
-    return {name + u": "_s + Letters(now, 1, lettersPerWord, u"empty"_s)};
+    return {name + ": " + Letters(now, 1, lettersPerWord, "empty")};
 }
 
 // The hand lifts a letter, or puts down the one that it holds; "" when the letters have moved in
 // another way.
-QString MoveOfHand(const Heard& told, const Heard& now)
+std::string MoveOfHand(const Board& told, const Board& now)
 {
     const bool lifts = told.HeldLetter.empty();
     if (lifts == now.HeldLetter.empty())
-        return {};
-    const Heard& with = lifts ? now : told;
-    const QString held = Text(with.HeldLetter);
+        return "";
+    const Board& with = lifts ? now : told;
+    const std::string& held = with.HeldLetter;
     const int swapped = Differing(told.SwapLetters, now.SwapLetters);
     LetterRow before = told.Text1;
-    before(with.HeldIndex).Text = lifts ? "" : with.HeldLetter;
+    before(with.HeldIndex).Text = lifts ? "" : held;
     const int moved = Differing(before, now.Text1);
     if (lifts)
-        return moved + swapped == 0 ? held + u" in your hand"_s : QString();
+        return moved + swapped == 0 ? held + " in your hand" : "";
 
-    const QString come = Text(now.Text1(with.HeldIndex).Text);
-    if (told.CanSwap && !now.CanSwap && moved == swapped && moved <= 1)
-        return come + u" for "_s + held + noMoreSwaps;
+    const std::string& come = now.Text1(with.HeldIndex).Text;
+    if (told.SwapLetters(1).Enabled && !now.SwapLetters(1).Enabled && moved == swapped && moved <= 1)
+        return come + " for " + held + ", " + noMoreSwaps;
     if (swapped != 0)
-        return {};
+        return "";
     if (moved == 0)
-        return held + u" back in its place"_s;
-    return moved == 2 ? held + u" and "_s + come + u" change places"_s : QString();
+        return held + " back in its place";
+    return moved == 2 ? held + " and " + come + " change places" : "";
 }
 
 // Letters are lifted to be laid out, or placed: "k, 3 of 6". "" when that is not what happens.
-QString LayingOut(const Heard& told, const Heard& now)
+std::string LayingOut(const Board& told, const Board& now)
 {
     const bool goesOn = HoldsLetters(told.Text2);
     if (!goesOn && !HoldsLetters(now.Text2) && now.LayOutNext == told.LayOutNext)
-        return {};
+        return "";
     const int first = goesOn ? told.LayOutNext : 1;
     const int last = now.LayOutNext - 1;
     if (!goesOn && last == 0)
-        return u"All six letters lifted, to be laid out"_s;
+        return "All six letters lifted, to be laid out";
     if (last < first)
-        return {};
-    const QString placed = Letters(now.Text1, first, last, u"empty"_s) + u", %1 of 6"_s.arg(last);
-    return last < lettersPerWord ? placed : placed + u". Your row: "_s + Text(Spell(now.Text1));
+        return "";
+    const std::string placed
+        = Letters(now.Text1, first, last, "empty") + ", " + std::to_string(last) + " of 6";
+    return last < lettersPerWord ? placed : placed + ". Your row: " + Spell(now.Text1);
 }
 
-QStringList NewRows(const Heard& told, const Heard& now)
+News NewRows(const Board& told, const Board& now)
 {
-    return NewRow(u"Your letters"_s, told.Text1, now.Text1)
-        + NewRow(u"Swap letters"_s, told.SwapLetters, now.SwapLetters)
-        + NewRow(u"The computer's letters"_s, told.MyLetters, now.MyLetters);
+    News news = NewRow("Your letters", told.Text1, now.Text1);
+    Add(news, NewRow("Swap letters", told.SwapLetters, now.SwapLetters));
+    Add(news, NewRow("The computer's letters", told.MyLetters, now.MyLetters));
+    return news;
 }
 
-QStringList Moves(const Heard& told, const Heard& now)
+News Moves(const Board& told, const Board& now)
 {
-    if (const QString hand = MoveOfHand(told, now); !hand.isEmpty())
+    if (const std::string hand = MoveOfHand(told, now); !hand.empty())
         return {hand};
-    if (const QString laid = LayingOut(told, now); !laid.isEmpty())
+    if (const std::string laid = LayingOut(told, now); !laid.empty())
         return {laid};
-    QStringList moves = NewRows(told, now);
+    News moves = NewRows(told, now);
     if (!now.HeldLetter.empty() && now.HeldLetter != told.HeldLetter)
-        moves += Text(now.HeldLetter) + u" in your hand"_s;
-    if (now.RedLetterTurns && !told.RedLetterTurns)
-        moves += u"Red letter "_s + Text(now.SwapLetters(1).Text) + u" turns with yours"_s
-            + (told.CanSwap ? noMoreSwaps : ""_L1);
-    else if (told.CanSwap && !now.CanSwap)
-        moves += noMoreSwaps.sliced(2);
+        moves.push_back(now.HeldLetter + " in your hand");
+    const bool swapsEnd = told.SwapLetters(1).Enabled && !now.SwapLetters(1).Enabled;
+    if (RedLetterTurnsToo(now) && !RedLetterTurnsToo(told))
+        moves.push_back("Red letter " + now.SwapLetters(1).Text + " turns with yours"
+            + (swapsEnd ? std::string(", ") + noMoreSwaps : ""));
+    else if (swapsEnd)
+        moves.emplace_back(noMoreSwaps);
     return moves;
 }
 
-QStringList NewLetters(const Heard& told, const Heard& now)
+// What is shown of the hidden words and was not, before a game has begun: told is nullptr then.
+News NewLetters(const Board* told, const Board& now)
 {
-    QStringList news;
-    for (int word = 1; word <= 3; ++word) {
-        const LetterRow& row = now.Words(word);
-        const int found = Differing(told.Words(word), row);
+    News news;
+    for (const HiddenWord& word : hiddenWords) {
+        const LetterRow& row = now.*word.Shown;
+        const LetterRow before = told == nullptr ? LetterRow() : told->*word.Shown;
+        const int found = Differing(before, row);
         if (found == 0)
             continue;
-        QString letters = u"Hidden word %1"_s.arg(word);
+        std::string letters = "Hidden word " + std::to_string(word.Number);
         int box = 1;
-        while (told.Words(word)(box).Text == row(box).Text)
+        while (before(box).Text == row(box).Text)
             ++box;
         if (found == 1)
-            letters += u", letter %1: "_s.arg(box) + Text(row(box).Text);
+            letters += ", letter " + std::to_string(box) + ": " + row(box).Text;
         if (!HasEmptyBox(row))
-            letters += u": "_s + Text(Spell(row));
+            letters += ": " + Spell(row);
         else if (found > 1)
-            letters += u": "_s + Letters(row, 1, lettersPerWord, u"blank"_s);
-        news += letters;
+            letters += ": " + Letters(row, 1, lettersPerWord, "blank");
+        news.push_back(letters);
     }
     return news;
 }
 
 // True when a letter of the hidden words that was known is another one now.
-bool Replaced(const Heard& told, const Heard& now)
+bool Replaced(const Board& told, const Board& now)
 {
-    for (int word = 1; word <= 3; ++word) {
+    for (const HiddenWord& word : hiddenWords) {
         for (int box = 1; box <= lettersPerWord; ++box) {
-            const std::string& known = told.Words(word)(box).Text;
-            if (!known.empty() && known != now.Words(word)(box).Text)
+            const std::string& known = (told.*word.Shown)(box).Text;
+            if (!known.empty() && known != (now.*word.Shown)(box).Text)
                 return true;
         }
     }
     return false;
 }
 
-// True when a game has begun: from the level panel, or right after the last one.
-bool Begins(const Heard& told, const Heard& now)
-{
-    if (now.LevelPanel)
-        return false;
-    return told.LevelPanel || !told.GameFrames || now.Caption != told.Caption
-        || Replaced(told, now);
-}
-
 } // namespace
 
-Heard Hear(const Board& board)
+bool BeginsGame(const Board& before, const Board& now)
 {
-    Heard heard;
-    heard.MyLetters = board.MyLetters;
-    heard.Text1 = board.Text1;
-    heard.SwapLetters = board.SwapLetters;
-    heard.Text2 = board.Text2;
-    heard.Words(1) = board.Word1;
-    heard.Words(2) = board.Word2;
-    heard.Words(3) = board.Word3;
-    heard.HeldLetter = board.HeldLetter;
-    heard.HeldIndex = board.HeldIndex;
-    heard.LayOutNext = board.LayOutNext;
-    heard.Level = board.Level;
-    heard.YourScore = board.YourScore.Text;
-    heard.MyScore = board.MyScore.Text;
-    heard.Bonus = board.Text9.Text;
-    heard.Caption = board.Caption;
-    heard.Played = board.List1.Words().size();
-    heard.CanSwap = board.SwapLetters(1).Enabled;
-    heard.RedLetterTurns = RedLetterTurnsToo(board);
-    heard.YourGo = board.Label5.Visible;
-    heard.LevelPanel = board.Frame1.Visible;
-    heard.GameFrames = board.Frame2.Visible;
-    return heard;
+    if (now.Frame1.Visible)
+        return false;
+    return before.Frame1.Visible || !before.Frame2.Visible || now.Caption != before.Caption
+        || Replaced(before, now);
 }
 
-QStringList PlayedSince(const Heard& before, const Board& board)
+News PlayedSince(const Board& before, const Board& now)
 {
-    const std::vector<std::string>& words = board.List1.Words();
-    if (words.size() <= before.Played)
+    const std::vector<std::string>& words = now.List1.Words();
+    if (words.size() <= before.List1.Words().size())
         return {};
-    const bool yours = board.YourScore.Text != before.YourScore;
-    const double points = yours ? NumberOf(board.YourScore.Text) - NumberOf(before.YourScore)
-                                : NumberOf(board.MyScore.Text) - NumberOf(before.MyScore);
-    QString played = (yours ? u"You played "_s : u"The computer played "_s) + Text(words.back());
+    const bool yours = now.YourScore.Text != before.YourScore.Text;
+    const auto points = [&](NumberBox Board::* score) {
+        return NumberOf((now.*score).Text) - NumberOf((before.*score).Text);
+    };
+    std::string played = (yours ? "You played " : "The computer played ") + words.back();
     // Where the bonus has not risen yet the computer claims the game, and its score is another.
-    if (board.Text9.Text != before.Bonus)
-        played += u" for %1 points"_s.arg(points);
+    if (now.Text9.Text != before.Text9.Text)
+        played += " for " + PlainForm(points(yours ? &Board::YourScore : &Board::MyScore)) + " points";
     return {played};
 }
 
-QString ScoresOf(const Heard& heard)
+std::string ScoresOf(const Board& board)
 {
-    return u"You have "_s + Text(heard.YourScore) + u" points, the computer "_s
-        + Text(heard.MyScore);
+    return "You have " + board.YourScore.Text + " points, the computer " + board.MyScore.Text;
 }
 
-QStringList NewsSince(const Heard& told, const Heard& now, bool afterGo)
+News NewsSince(const Board& told, const Board& now, bool afterGo)
 {
-    if (now.LevelPanel && now.Level != told.Level)
-        return {u"Level %1 chosen"_s.arg(now.Level)};
-    if (!now.GameFrames)
+    if (now.Frame1.Visible && now.Level != told.Level)
+        return {"Level " + std::to_string(now.Level) + " chosen"};
+    if (!now.Frame2.Visible)
         return {};
-    if (now.LevelPanel && !told.LevelPanel)
-        return NewLetters(told, now);
-    QStringList news;
-    const bool begins = Begins(told, now);
+    if (now.Frame1.Visible && !told.Frame1.Visible)
+        return NewLetters(&told, now);
+    News news;
+    const bool begins = BeginsGame(told, now);
     if (now.Caption != told.Caption)
-        news += Text(now.Caption).simplified();
-    news += NewLetters(begins ? Heard() : told, now);
-    if (now.YourScore != told.YourScore || now.MyScore != told.MyScore)
-        news += ScoresOf(now);
-    if (now.Bonus != told.Bonus)
-        news += u"Bonus of the next word: "_s + Text(now.Bonus).trimmed();
-    news += afterGo || begins ? NewRows(told, now) : Moves(told, now);
-    if ((afterGo || begins) && now.YourGo)
-        news += u"Your go"_s;
+        news.push_back(Tidied(now.Caption));
+    Add(news, NewLetters(begins ? nullptr : &told, now));
+    if (now.YourScore.Text != told.YourScore.Text || now.MyScore.Text != told.MyScore.Text)
+        news.push_back(ScoresOf(now));
+    if (now.Text9.Text != told.Text9.Text)
+        news.push_back("Bonus of the next word: " + Tidied(now.Text9.Text));
+    Add(news, afterGo || begins ? NewRows(told, now) : Moves(told, now));
+    if ((afterGo || begins) && now.Label5.Visible)
+        news.emplace_back("Your go");
     return news;
 }

@@ -1,77 +1,85 @@
 #include "ui/places.h"
 
 #include "game/board.h"
+#include "ui/part.h"
 #include "ui/roster.h"
-#include "ui/titled_frame.h"
-#include "ui/used_words_list.h"
-
-#include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
-using PanelField = Panel Board::*;
-
 constexpr int sharedLine = 15; // twips by which the boxes of a row overlap
 
-// Of an edge, in whole pixels.
+// Its field, where the board says the place of the part.
+const Panel* PanelOf(const Part& part, const Board& board)
+{
+    const auto* field = part.Shows == nullptr ? nullptr : std::get_if<Panel Board::*>(part.Shows);
+    return field == nullptr ? nullptr : &(board.**field);
+}
+
+// Of the roster, in its frame.
+Place PlaceInFrame(const Part& part)
+{
+    const Control& row = *part.Row;
+    const int steps = part.Number - row.Boxes.value_or(BoxNumbers()).First;
+    return {row.At.Left + steps * row.Next.Right, row.At.Top + steps * row.Next.Down, row.At.Width,
+        row.At.Height};
+}
+
+int Pixels(double twips, const Scale& scale)
+{
+    return static_cast<int>(std::lround(twips * scale.PixelsPerTwip));
+}
+
+} // namespace
+
+bool Contains(const TwipRect& outer, const TwipRect& inner)
+{
+    return inner.Left >= outer.Left && inner.Top >= outer.Top
+        && inner.Left + inner.Width <= outer.Left + outer.Width
+        && inner.Top + inner.Height <= outer.Top + outer.Height;
+}
+
+TwipRect PlaceInTwips(const Part& part, const Board& board)
+{
+    if (const Panel* panel = PanelOf(part, board))
+        return {panel->Left, panel->Top, panel->Width, panel->Height};
+    const Place at = PlaceInFrame(part);
+    const TwipRect frame = part.Frame == nullptr ? TwipRect() : PlaceInTwips(*part.Frame, board);
+    return {frame.Left + at.Left, frame.Top + at.Top, static_cast<double>(at.Width),
+        static_cast<double>(at.Height)};
+}
+
 int LineWidth(const Scale& scale)
 {
     return std::max(1, static_cast<int>(sharedLine * scale.PixelsPerTwip + 0.01));
 }
 
-QRect PlaceOf(const BuiltControl& control, const Scale& scale)
+PixelRect PlaceOf(const Part& part, const Board& board, const Scale& scale)
 {
-    const Control& row = *control.Row;
-    const int steps = control.Number - row.Boxes.value_or(BoxNumbers()).First;
-    const Place at = {row.At.Left + steps * row.Next.Right, row.At.Top + steps * row.Next.Down,
-        row.At.Width, row.At.Height};
-    const auto pixels = [&](int twips) { return qRound(twips * scale.PixelsPerTwip); };
+    const int left = part.Frame == nullptr ? scale.Left : 0;
+    const int top = part.Frame == nullptr ? scale.Top : 0;
+    if (const Panel* panel = PanelOf(part, board))
+        return {left + Pixels(panel->Left, scale), top + Pixels(panel->Top, scale),
+            Pixels(panel->Width, scale), Pixels(panel->Height, scale)};
+    const Place at = PlaceInFrame(part);
     const int line = LineWidth(scale);
-    // First and last lines are rounded and not sizes: boxes that share a line share its pixels at
-    // every scale.
-    const QPoint first(pixels(at.Left), pixels(at.Top));
-    const QPoint last(
-        pixels(at.Left + at.Width - sharedLine), pixels(at.Top + at.Height - sharedLine));
-    const QRect place(first, last + QPoint(line - 1, line - 1));
-    return *row.In == '\0' ? place.translated(scale.Origin) : place;
+    // First and last lines are rounded, and not sizes.
+    const int first = Pixels(at.Left, scale);
+    const int firstDown = Pixels(at.Top, scale);
+    return {left + first, top + firstDown,
+        Pixels(at.Left + at.Width - sharedLine, scale) + line - first,
+        Pixels(at.Top + at.Height - sharedLine, scale) + line - firstDown};
 }
 
-// Its field, where the board says the place of the control.
-const PanelField* PanelOf(const BuiltControl& control)
+PixelRect PlaceInWindow(const Part& part, const Board& board, const Scale& scale)
 {
-    return control.Shows != nullptr ? std::get_if<PanelField>(control.Shows) : nullptr;
-}
-
-} // namespace
-
-void PlaceControls(Controls& controls, const Scale& scale)
-{
-    const int line = LineWidth(scale);
-    for (BuiltControl& control : controls) {
-        if (PanelOf(control) == nullptr)
-            control.Widget->setGeometry(PlaceOf(control, scale));
-        if (control.Row->Is == Kind::Frame)
-            As<TitledFrame>(control).SetLine(line);
-        else if (control.Row->Is == Kind::List)
-            As<UsedWordsList>(control).setLineWidth(line);
-        else if (HasDrawnEdge(control.Row->Is))
-            control.Widget->setContentsMargins(line, line, line, line);
-        control.HasFont = false;
+    PixelRect place = PlaceOf(part, board, scale);
+    for (const Part* frame = part.Frame; frame != nullptr; frame = frame->Frame) {
+        const PixelRect around = PlaceOf(*frame, board, scale);
+        place.Left += around.Left;
+        place.Top += around.Top;
     }
-}
-
-void PlacePanels(const Controls& controls, const Board& board, const Scale& scale)
-{
-    const auto pixels = [&](double twips) { return qRound(twips * scale.PixelsPerTwip); };
-    for (const BuiltControl& control : controls) {
-        const PanelField* field = PanelOf(control);
-        if (field == nullptr)
-            continue;
-        const Panel& panel = board.**field;
-        const QRect place(
-            pixels(panel.Left), pixels(panel.Top), pixels(panel.Width), pixels(panel.Height));
-        control.Widget->setGeometry(place.translated(scale.Origin));
-    }
+    return place;
 }

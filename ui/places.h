@@ -1,21 +1,44 @@
-// Where the controls stand, in pixels at the scale of the window.
+// Where the controls stand, in twips and in pixels at the scale of the board.
 #pragma once
 
-#include "ui/controls.h"
-
-#include <QPoint>
-
 struct Board;
+struct Part;
 
-// How large the board is, and where in the window it begins.
+struct TwipRect { // from the client area of the window
+    double Left = 0;
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+};
+
+bool Contains(const TwipRect& outer, const TwipRect& inner);
+
+// The level panel and its backing stand where the board says.
+TwipRect PlaceInTwips(const Part& part, const Board& board);
+
+struct PixelRect {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+
+    bool operator==(const PixelRect&) const = default;
+};
+
+// How large the board is, and where in the window it begins, in pixels.
 struct Scale {
-    double PixelsPerTwip;
-    QPoint Origin; // in pixels
+    double PixelsPerTwip = 0;
+    int Left = 0;
+    int Top = 0;
 
     bool operator==(const Scale&) const = default;
 };
 
-// Gives every control its place, and its edge as contents margins; its font has to be given anew.
-// The level panel and its backing are left out: where they stand the board says.
-void PlaceControls(Controls& controls, const Scale& scale);
-void PlacePanels(const Controls& controls, const Board& board, const Scale& scale);
+// The width of an edge.
+int LineWidth(const Scale& scale);
+
+// In the frame that holds the part. Boxes that share a line share its pixels at every scale.
+PixelRect PlaceOf(const Part& part, const Board& board, const Scale& scale);
+
+// The same from the client area of the window.
+PixelRect PlaceInWindow(const Part& part, const Board& board, const Scale& scale);

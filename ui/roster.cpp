@@ -1,5 +1,7 @@
 #include "ui/roster.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr Colour Black{0, 0, 0};
@@ -60,7 +62,6 @@ constexpr Control WordBoxes(const char* name, BoxNumbers boxes, int top, const c
         .Next = {.Right = 480},
         .Font = Times(18),
         .Background = shown ? Orange : PaleOrange,
-        .ClickWorks = Works::WhenEmpty,
         .Spoken = spoken,
         .SpokenWhenEmpty = ": buy for 100 points",
         .SpokenWhenFilled = ", shown, not for sale"};
@@ -125,7 +126,6 @@ constexpr Control roster[] = {
         .At = {600, 240, 375, 315},
         .Next = {.Right = 360},
         .Font = Times(11.25),
-        .ClickWorks = Works::WhenFilled,
         .Spoken = "Letter to lay out %1 of 6",
         .SpokenHelp = "Puts this letter in the next box of your letters"},
     PlainButton("Command9", "Frame6", {720, 600, 1935, 255}, "Lay Out Word", Times(9.75),
@@ -139,7 +139,6 @@ constexpr Control roster[] = {
         .Font = Times(18),
         .Background = Yellow,
         .ToolTip = "Click any two boxes to swap ",
-        .ClickWorks = Works::WhenNoneWaitsAbove,
         .Spoken = "Your letter %1 of 6",
         .SpokenHelp = "Takes this letter in your hand, or puts the one in your hand here"},
     {.Is = Kind::LetterTile,
@@ -343,4 +342,16 @@ std::span<const Control> Roster()
 std::span<const char* const> TabOrder()
 {
     return tabOrder;
+}
+
+Reach ReachOfFrames()
+{
+    Reach reach;
+    for (const Control& row : roster) {
+        if (*row.In != '\0')
+            continue;
+        reach.Right = std::max(reach.Right, row.At.Left + row.At.Width);
+        reach.Down = std::max(reach.Down, row.At.Top + row.At.Height);
+    }
+    return reach;
 }

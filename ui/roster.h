@@ -35,9 +35,6 @@ struct BoxNumbers {
     int Last = 0;
 };
 
-// When a click on a tile that is enabled does something.
-enum class Works { Always, WhenFilled, WhenEmpty, WhenNoneWaitsAbove };
-
 enum class Face {
     Plain,
     TimesNewRoman,
@@ -72,8 +69,7 @@ struct Control {
     std::optional<Colour> Background = {}; // none: as the desktop has it
     std::optional<Colour> Text = {};       // none on a named background: black
     const char* ToolTip = "";
-    Works ClickWorks = Works::Always; // of a tile
-    bool Heavy = false;               // a button with a heavier edge
+    bool Heavy = false; // a button with a heavier edge
 
     // What a screen reader says: the name, where %1 stands for the number of the box, then for a
     // box its letter and an ending, or the one that stands for no letter; and what the control
@@ -98,5 +94,8 @@ std::span<const Control> Roster();
 std::span<const char* const> TabOrder();
 
 // How far the frames reach to the right and down, in twips.
-inline constexpr int ReachRight = 9615;
-inline constexpr int ReachDown = 6855;
+struct Reach {
+    int Right = 0;
+    int Down = 0;
+};
+Reach ReachOfFrames();

@@ -1,60 +1,40 @@
 #include "ui/spoken.h"
 
-#include "ui/controls.h"
+#include "ui/look.h"
+#include "ui/part.h"
 #include "ui/roster.h"
 
-#include <QWidget>
-
-#include <optional>
-
-using namespace Qt::StringLiterals;
+#include <algorithm>
 
 namespace {
 
-QString WithNumber(const char* words, int number)
+std::string WithNumber(std::string words, int number)
 {
-    const QString text = QString::fromUtf8(words);
-    return text.contains(u"%1") ? text.arg(number) : text;
+    const std::size_t place = words.find("%1");
+    return place == std::string::npos ? words : words.replace(place, 2, std::to_string(number));
+}
+
+bool IsLetterOrNumber(Kind kind)
+{
+    return kind == Kind::LetterTile || kind == Kind::ShownBox;
 }
 
 } // namespace
 
-Silence::Silence()
-    : usual_(QAccessible::installUpdateHandler([](QAccessibleEvent* /*event*/) { }))
+std::string SpokenName(const Part& part, const Look& look)
 {
+    const Control& row = *part.Row;
+    std::string words = WithNumber(*row.Spoken == '\0' ? row.Caption : row.Spoken, part.Number);
+    if (!IsLetterOrNumber(row.Is))
+        return words;
+    const std::string text = look.Text.substr(std::min(look.Text.find_first_not_of(' '), look.Text.size()));
+    words += text.empty() ? row.SpokenWhenEmpty : ": " + text + row.SpokenWhenFilled;
+    if (!look.Faint.empty())
+        words += ", " + look.Faint + " is in your hand";
+    return words;
 }
 
-Silence::~Silence()
+std::string SpokenHelp(const Part& part)
 {
-    QAccessible::installUpdateHandler(usual_);
-}
-
-void GiveWords(const BuiltControl& control)
-{
-    const Control& row = *control.Row;
-    const char* name = *row.Spoken == '\0' ? row.Caption : row.Spoken;
-    control.Widget->setAccessibleName(WithNumber(name, control.Number));
-    // Help is said once for all boxes. A blank keeps the others from saying their tool tip instead.
-    const char* help = control.Number <= 1 ? row.SpokenHelp : " ";
-    control.Widget->setAccessibleDescription(QString::fromUtf8(help));
-    control.Widget->setToolTip(QString::fromUtf8(row.ToolTip));
-}
-
-void NameBox(const BuiltControl& control, const QString& text, const QString& faint)
-{
-    QString words = WithNumber(control.Row->Spoken, control.Number);
-    words += text.isEmpty() ? QString::fromUtf8(control.Row->SpokenWhenEmpty)
-                            : u": "_s + text + QString::fromUtf8(control.Row->SpokenWhenFilled);
-    if (!faint.isEmpty())
-        words += u", "_s + faint + u" is in your hand"_s;
-    if (control.Widget->accessibleName() == words)
-        return; // a name that is given is told, even the same
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    // Where the focus is, a reader would read the whole name again; the news has what is new in it.
-    // Older ones do not, and a client that keeps names has to be told of the new one.
-    std::optional<Silence> silence;
-    if (control.Widget->hasFocus())
-        silence.emplace();
-#endif
-    control.Widget->setAccessibleName(words);
+    return part.Number <= 1 ? part.Row->SpokenHelp : "";
 }

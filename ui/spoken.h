@@ -1,26 +1,14 @@
-// The words for the ear: what a screen reader says of each control, and the tool tips.
+// The words for the ear: what a screen reader says of each control.
 #pragma once
 
-#include <QAccessible>
+#include <string>
 
-class QString;
-struct BuiltControl;
+struct Look;
+struct Part;
 
-// Gives the control its words as they are at the start: name, help and tool tip.
-void GiveWords(const BuiltControl& control);
+// The name; of a box with what it shows: "Your letter 3 of 6: p". That a box is disabled is for its
+// state to say.
+std::string SpokenName(const Part& part, const Look& look);
 
-// While one of these lives, no screen reader is told what changes.
-class Silence {
-public:
-    Silence();
-    ~Silence();
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-
-private:
-    QAccessible::UpdateHandler usual_;
-};
-
-// Names a box with what it shows: "Your letter 3 of 6: p". Faint is a letter that the box shows
-// although it is in the player's hand, or "". That a box is disabled is for its state to say.
-void NameBox(const BuiltControl& control, const QString& text, const QString& faint);
+// What the control does, which the first box of a row says for all.
+std::string SpokenHelp(const Part& part);

@@ -1,34 +1,22 @@
 // A word is typed: a letter key clicks for the player what a hand would click, and writes nothing.
 #pragma once
 
-#include "ui/controls.h"
-
-#include <QObject>
+#include <functional>
+#include <string>
+#include <vector>
 
 struct Board;
-class QKeyEvent;
+struct Part;
 
-class Typing : public QObject {
-public:
-    // Both outlive this.
-    Typing(const Controls& controls, const Board& board);
+// A typed letter in UTF-8: as it was typed, and then in its other cases.
+using TypedLetter = std::vector<std::string>;
 
-    // A letter lays out the player's letters, if that is not under way, and puts the first tile
-    // that bears it in its place; Escape puts the tiles that are left in theirs. False when the key
-    // means neither.
-    bool Press(const QKeyEvent& key) const;
+// Delivers a click as the player's own would be.
+using Clicker = std::function<void(const Part& part)>;
 
-    // For the whole application: letters that an input method or a dead key composes while a
-    // control other than a box to type in has the focus.
-    bool eventFilter(QObject* watched, QEvent* event) override;
+// The letter lays out the player's letters, if that is not under way, and puts the first tile that
+// bears it in its place. Returns where the focus belongs, or nullptr where nothing has been placed.
+const Part* TypeLetter(const Board& board, const TypedLetter& letter, const Clicker& click);
 
-private:
-    bool CanType() const;
-    void Type(const QString& text) const;
-    void TypeLetter(char32_t letter) const;
-    void PlaceTheRest() const;
-    void Click(const char* control, int box = 0) const;
-
-    const Controls& controls_;
-    const Board& board_;
-};
+// Puts the letters that wait in their places, from the left.
+void PlaceTheRest(const Board& board, const Clicker& click);

@@ -3,19 +3,14 @@
 #include "game/board.h"
 #include "ui/roster.h"
 
-#include <QScreen>
-#include <QWidget>
-
 #include <algorithm>
-#include <utility>
+#include <cmath>
 
 namespace {
 
-// In twips: the size that the window is built at, the outer size that it has on the screen, and the
-// board with as much room to the right and below as it has to the left.
-constexpr QSize designSize(10875, 7920);
-constexpr QSize outerSize(9960, 7484);
-constexpr QSize boardSize(ReachRight + 120, ReachDown + 120);
+// In twips: the size that the window is built at, and the outer size that it has on the screen.
+constexpr PixelSize designSize{10875, 7920};
+constexpr PixelSize outerSize{9960, 7484};
 constexpr double fullScale = 1.0 / 15; // pixels to the twip, at 96 dots to the inch
 
 // A desktop that does not give the one size may be in the middle of a drag, or may be one that lays
@@ -24,89 +19,103 @@ constexpr double fullScale = 1.0 / 15; // pixels to the twip, at 96 dots to the 
 constexpr int firstPause = 100;
 constexpr int mostRefusals = 4;
 
+// The board with as much room to the right and below as it has to the left, in twips.
+PixelSize BoardSize()
+{
+    const Reach reach = ReachOfFrames();
+    return {reach.Right + 120, reach.Down + 120};
+}
+
+int Rounded(double pixels)
+{
+    return static_cast<int>(std::lround(pixels));
+}
+
+PixelSize Scaled(PixelSize twips, double scale)
+{
+    return {Rounded(twips.Width * scale), Rounded(twips.Height * scale)};
+}
+
 } // namespace
 
-WindowSize::WindowSize(QWidget& window, Board& board, std::function<void()> rescaled)
-    : window_(window)
-    , board_(board)
-    , rescaled_(std::move(rescaled))
-    , scale_{fullScale, {}}
+PixelSize DesignSize()
 {
-    window_.resize(designSize * fullScale);
-    later_.setSingleShot(true);
-    QObject::connect(&later_, &QTimer::timeout, &window, [this] { Form_Resize(); });
-    ReadSize();
+    return Scaled(designSize, fullScale);
 }
 
-void WindowSize::Form_Resize()
+WindowSize::WindowSize(Board& board)
+    : board_(board)
+    , scale_{fullScale, 0, 0}
 {
-    const Scale before = scale_;
-    if (HasRoomOfItsOwn())
-        FillRoom();
-    else if (!window_.isMinimized())
-        HoldOneSize();
-    ReadSize();
-    if (scale_ != before)
-        rescaled_();
+    board_.WindowWidth = designSize.Width;
+    board_.WindowHeight = designSize.Height;
 }
 
-bool WindowSize::HasRoomOfItsOwn() const
+Wish WindowSize::Form_Resize(const Desktop& desktop)
 {
-    return window_.isMaximized() || window_.isFullScreen()
-        || (refusals_ == mostRefusals && window_.size() == insisted_);
+    Wish wish;
+    if (HasRoomOfItsOwn(desktop))
+        FillRoom(desktop);
+    else if (!desktop.Minimised)
+        wish = HoldOneSize(desktop);
+    ReadSize(desktop);
+    return wish;
 }
 
-void WindowSize::FillRoom()
+Wish WindowSize::AskAgain(const Desktop& desktop)
 {
-    const QSizeF room = window_.size();
-    scale_.PixelsPerTwip
-        = std::min(room.width() / boardSize.width(), room.height() / boardSize.height());
-    const QSizeF spare = room - QSizeF(boardSize) * scale_.PixelsPerTwip;
-    scale_.Origin = QPoint(qRound(spare.width() / 2), qRound(spare.height() / 2));
+    asked_ = false;
+    return Form_Resize(desktop);
 }
 
-// A screen can become another size with the window on it, and not all desktops move the window.
-QSizeF WindowSize::RoomOnScreen()
+bool WindowSize::HasRoomOfItsOwn(const Desktop& desktop) const
 {
-    const QScreen& screen = *window_.screen();
-    QObject::disconnect(ofScreen_);
-    ofScreen_ = QObject::connect(
-        &screen, &QScreen::availableGeometryChanged, &window_, [this] { Form_Resize(); });
-    return screen.availableGeometry().size();
+    return desktop.GivesRoom || (refusals_ == mostRefusals && desktop.Window == insisted_);
+}
+
+void WindowSize::FillRoom(const Desktop& desktop)
+{
+    const PixelSize board = BoardSize();
+    const double scale = std::min(1.0 * desktop.Window.Width / board.Width,
+        1.0 * desktop.Window.Height / board.Height);
+    scale_ = {scale, Rounded((desktop.Window.Width - board.Width * scale) / 2),
+        Rounded((desktop.Window.Height - board.Height * scale) / 2)};
 }
 
 // On a screen that the window does not fit on, everything in it becomes smaller by one factor.
-void WindowSize::HoldOneSize()
+Wish WindowSize::HoldOneSize(const Desktop& desktop)
 {
-    const QSizeF screen = RoomOnScreen();
-    const double scale = std::min(
-        {fullScale, screen.width() / outerSize.width(), screen.height() / outerSize.height()});
-    scale_ = {scale, {}};
-    const QSize borders = window_.frameGeometry().size() - window_.size();
-    const QSize wanted
-        = (outerSize * scale - borders).expandedTo(QSize(ReachRight, ReachDown) * scale);
-    if (window_.size() == wanted) {
-        if (!later_.isActive())
-            insisted_ = QSize();
-        return;
+    const double scale = std::min({fullScale, 1.0 * desktop.Screen.Width / outerSize.Width,
+        1.0 * desktop.Screen.Height / outerSize.Height});
+    scale_ = {scale, 0, 0};
+    const PixelSize outer = Scaled(outerSize, scale);
+    const Reach reach = ReachOfFrames();
+    const PixelSize contents = Scaled({reach.Right, reach.Down}, scale);
+    const PixelSize wanted{std::max(outer.Width - desktop.Borders.Width, contents.Width),
+        std::max(outer.Height - desktop.Borders.Height, contents.Height)};
+    if (desktop.Window == wanted) {
+        if (!asked_)
+            insisted_ = PixelSize();
+        return {};
     }
-    if (window_.size() != insisted_) {
-        insisted_ = window_.size();
+    if (desktop.Window != insisted_) {
+        insisted_ = desktop.Window;
         refusals_ = 0;
-        later_.stop();
+        asked_ = false;
     }
-    if (later_.isActive())
-        return; // the desktop has been asked, and may still give way
-    later_.start(firstPause << refusals_);
-    ++refusals_;
-    window_.resize(wanted);
+    if (asked_)
+        return {};
+    asked_ = true;
+    return {wanted, firstPause << refusals_++};
 }
 
-void WindowSize::ReadSize()
+void WindowSize::ReadSize(const Desktop& desktop)
 {
-    const QSizeF outer = HasRoomOfItsOwn()
-        ? QSizeF(outerSize) // the board is that of the one size, seen larger
-        : QSizeF(window_.frameGeometry().size()) / scale_.PixelsPerTwip;
-    board_.WindowWidth = outer.width();
-    board_.WindowHeight = outer.height();
+    if (HasRoomOfItsOwn(desktop)) { // the board is that of the one size, seen larger
+        board_.WindowWidth = outerSize.Width;
+        board_.WindowHeight = outerSize.Height;
+        return;
+    }
+    board_.WindowWidth = (desktop.Window.Width + desktop.Borders.Width) / scale_.PixelsPerTwip;
+    board_.WindowHeight = (desktop.Window.Height + desktop.Borders.Height) / scale_.PixelsPerTwip;
 }

@@ -4,40 +4,57 @@
 
 #include "ui/places.h"
 
-#include <QSize>
-#include <QTimer>
+#include <optional>
 
-#include <functional>
+struct PixelSize {
+    int Width = 0;
+    int Height = 0;
 
-struct Board;
-class QWidget;
+    bool operator==(const PixelSize&) const = default;
+};
+
+// What a desktop says of the window, in pixels.
+struct Desktop {
+    PixelSize Window;  // without its borders
+    PixelSize Borders; // of both sides together
+    PixelSize Screen;  // the room on it
+    bool GivesRoom = false; // maximised, or in full screen
+    bool Minimised = false;
+};
+
+// What is asked of the desktop.
+struct Wish {
+    std::optional<PixelSize> Size; // for the window, without its borders
+    int AskAgainAfter = 0;         // milliseconds: then WindowSize::AskAgain; 0 for never
+};
+
+// The size that the window is built at.
+PixelSize DesignSize();
 
 class WindowSize {
 public:
-    // Gives the window the size that it is built at. Tells of every change of the scale from then
-    // on. The window and the board outlive this.
-    WindowSize(QWidget& window, Board& board, std::function<void()> rescaled);
+    // Tells the board the size that the window is built at. The board outlives this.
+    explicit WindowSize(Board& board);
 
     const Scale& Present() const { return scale_; }
 
-    // Maximised, in full screen, or where the desktop insists on a size, the board is as large as
-    // the room. Otherwise holds the window at its one outer size, in whole pixels, never smaller
-    // than its contents and never larger than the screen. Then tells the board the size.
-    void Form_Resize();
+    // At every change: maximised, in full screen, or where the desktop insists on a size, the board is
+    // as large as the room. Otherwise the window has its one outer size, in whole pixels, never
+    // smaller than its contents and never larger than the screen.
+    Wish Form_Resize(const Desktop& desktop);
+    Wish AskAgain(const Desktop& desktop);
+
+    // Tells the board the size without asking for another.
+    void ReadSize(const Desktop& desktop);
 
 private:
-    bool HasRoomOfItsOwn() const;
-    void FillRoom();
-    void HoldOneSize();
-    QSizeF RoomOnScreen();
-    void ReadSize();
+    bool HasRoomOfItsOwn(const Desktop& desktop) const;
+    void FillRoom(const Desktop& desktop);
+    Wish HoldOneSize(const Desktop& desktop);
 
-    QWidget& window_;
     Board& board_;
-    std::function<void()> rescaled_;
     Scale scale_;
-    QMetaObject::Connection ofScreen_; // to the one that the window is on
-    QTimer later_;
-    int refusals_ = 0; // of the one size, one after another, by a desktop that
-    QSize insisted_;   // gives this one
+    bool asked_ = false;   // and may still get the size
+    int refusals_ = 0;     // of the one size, one after another, by a desktop that
+    PixelSize insisted_{}; // gives this one
 };

@@ -2,8 +2,8 @@
 // a game in progress on a light and on a dark desktop. The same word list gives the same pictures.
 #include "headless/board_text.h"
 #include "headless/script.h"
-#include "ui/board_style.h"
-#include "ui/main_window.h"
+#include "ui/qt/board_style.h"
+#include "ui/qt/main_window.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -66,7 +66,7 @@ void DrawGo(const char* wordList, const QString& files)
     int picture = 0;
     for (const char* events : aGo) {
         PlayEvents(game, events);
-        window.ShowBoard();
+        window.InSession().Show();
         Draw(window, files.arg(QStringLiteral("go-%1").arg(++picture)), letters);
     }
 }
@@ -78,7 +78,7 @@ void DrawDesktop(const char* wordList, const QString& file, const QPalette& desk
     MainWindow window(game.game);
     window.show();
     PlayEvents(game, gameInProgress);
-    window.ShowBoard();
+    window.InSession().Show();
     Draw(window, file);
 }
 

@@ -1,0 +1,50 @@
+// The boxes of the guess: a typed letter moves on to the next box, and known letters are passed.
+#pragma once
+
+#include "ui/keys.h"
+
+#include <string>
+
+struct Board;
+struct Part;
+
+// How a box came to hold its text.
+enum class Edit { Typed, Erased };
+
+class GuessRows {
+public:
+    // The board outlives this.
+    explicit GuessRows(Board& board);
+
+    // The box holds this text now, by the player's hand. A letter moves on once it stands in the box.
+    // More of them at once, as a pasted word brings, go on over the row, and what is left then stays
+    // in its last box. The text is composed: a letter is a code point. Returns the box to go on at,
+    // or nullptr.
+    const Part* Write(const Part& box, const std::string& text, Edit edit);
+
+    // The box holds this text as it is, whatever it is.
+    void Set(const Part& box, const std::string& text) { TextOf(box) = text; }
+
+    // The key moves the focus to the box that is returned. Handled is false where it is for others.
+    struct Move {
+        bool Handled = false;
+        const Part* To = nullptr;
+    };
+    Move Press(const Part& box, const KeyPress& key);
+
+    // The focus has come to the box; by a step on from a letter that was typed, Backspace is for that
+    // letter.
+    void FocusCame() { steppedInto_ = false; }
+    void SteppedOn() { steppedInto_ = true; }
+
+    // The first empty box, down the columns; nullptr when all are filled.
+    const Part* Gap() const;
+
+private:
+    bool IsKnown(const Part& box) const;
+    std::string& TextOf(const Part& box) const;
+    const Part* EraseBefore(const Part& box);
+
+    Board& board_;
+    bool steppedInto_ = false;
+};

@@ -1,0 +1,8 @@
+// The fonts of the controls: which face stands in for one that is missing, and how large it is.
+#pragma once
+
+#include "ui/qt/controls.h"
+
+// Gives the controls on view their fonts, as large as their captions fit in with. Looking for fonts
+// is most of the work before the window first shows, so the board's wait until it is on view.
+void GiveFonts(Controls& controls, double pixelsPerTwip);

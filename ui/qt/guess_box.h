@@ -1,0 +1,25 @@
+// A box of the guess rows: it takes any text.
+#pragma once
+
+#include "ui/guess_rows.h"
+
+#include <QLineEdit>
+
+class GuessBox : public QLineEdit {
+public:
+    explicit GuessBox(QWidget* parent);
+
+    // Sets the text. The same one again leaves cursor and selection as they are.
+    void Write(const QString& letters);
+
+    // What the edit under way does.
+    Edit Kind() const { return edit_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    Edit edit_ = Edit::Typed;
+};

@@ -1,0 +1,11 @@
+#include "ui/qt/level_option.h"
+
+#include <QPainter>
+
+// The style marks the focus too faintly to be seen on brick.
+void LevelOption::paintEvent(QPaintEvent* event)
+{
+    QRadioButton::paintEvent(event);
+    if (hasFocus())
+        QPainter(this).fillRect(0, height() - 2, width(), 2, palette().color(foregroundRole()));
+}
