@@ -132,6 +132,11 @@ bool StaysInPlay(const Part* focused, const Board& board)
     return !board.Frame1.Visible || focused->Frame == &FindPart("Frame1");
 }
 
+bool EndsGoOrBeginsGame(const Outcome& outcome)
+{
+    return GameBegun(outcome) || GoHandedOver(outcome);
+}
+
 bool CallsForPlay(const Outcome& outcome)
 {
     return std::ranges::any_of(callsForPlay, [&](auto happened) { return happened(outcome); });

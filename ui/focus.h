@@ -43,6 +43,8 @@ struct Outcome {
     bool GoWentOver; // "YOUR GO" was off the screen meanwhile
 };
 
+bool EndsGoOrBeginsGame(const Outcome& outcome);
+
 // Whether the focus goes where play goes on; and whether it goes to the first gap of the guess.
 bool CallsForPlay(const Outcome& outcome);
 bool CallsForGuess(const Outcome& outcome);

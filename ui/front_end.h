@@ -29,7 +29,8 @@ public:
     // Paints what is shown and runs the pending input, then returns.
     virtual void PaintNow() = 0;
 
-    // Shows the message and returns when it has been answered.
+    // Shows the message and returns when it has been answered; an answer counts once
+    // Session::TakesAnswer says so.
     virtual Answer Ask(const Message& message) = 0;
 
     // Ends the program at once.
@@ -45,6 +46,9 @@ public:
     // Since any moment that stays the same.
     virtual std::int64_t Milliseconds() const = 0;
 
-    // Opens the page that tells how to play.
-    virtual void OpenHowToPlay() = 0;
+    // Within so long a second press of a pointer makes a double click of it.
+    virtual int DoubleClickMilliseconds() const = 0;
+
+    // Opens the page that tells how to play. False where nothing can show it.
+    virtual bool OpenHowToPlay() = 0;
 };

@@ -3,9 +3,12 @@
 #include "game/clicks.h"
 #include "game/hidden_words.h"
 #include "game/moving_letters.h"
+#include "game/rows.h"
 #include "ui/part.h"
 #include "ui/roster.h"
 #include "ui/spoken.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -43,6 +46,33 @@ bool IsFaded(const Part& part, const Board& board)
     return !IsEnabled(part, board) && !(box == &board.SwapLetters(1) && RedLetterTurnsToo(board));
 }
 
+bool HoldsMark(const Part& part, const std::vector<const Part*>& marked)
+{
+    return std::ranges::find(marked, &part) != marked.end();
+}
+
+// Of a guess: whether the letter is none of those that the hidden words are made of, as one in the
+// other case is.
+bool IsForeign(const std::string& letter, const Board& board)
+{
+    return !letter.empty() && HiddenLetters(board).find(letter) == std::string::npos;
+}
+
+Mark MarkOf(const Part& part, const Board& board, const Marks& marks, const Look& look)
+{
+    if (&part == marks.Refused)
+        return Mark::Refused;
+    if (part.Row->Is == Kind::GuessBox) {
+        if (!look.Above.empty() && look.Text == look.Above)
+            return Mark::Known;
+        return IsForeign(look.Text, board) ? Mark::Foreign : Mark::None;
+    }
+    const bool next = part.Number == board.LayOutNext && part.Clicked == FindClick("Text1");
+    if (next && HoldsLetters(board.Text2))
+        return Mark::Next;
+    return HoldsMark(part, marks.Changed) ? Mark::Changed : Mark::None;
+}
+
 // What the field of the control has to show.
 struct ReadField {
     const Part& part;
@@ -72,7 +102,7 @@ struct ReadField {
 
 } // namespace
 
-Look LookOf(const Part& part, const Board& board)
+Look LookOf(const Part& part, const Board& board, const Marks& marks)
 {
     Look look;
     look.Text = part.Row->Caption;
@@ -82,6 +112,8 @@ Look LookOf(const Part& part, const Board& board)
     look.Faded = IsFaded(part, board);
     if (part.Shows != nullptr)
         std::visit(ReadField{part, board, look}, *part.Shows);
+    look.Marked = MarkOf(part, board, marks, look);
     look.Name = SpokenName(part, look);
+    look.Help = SpokenHelp(part);
     return look;
 }

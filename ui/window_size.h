@@ -6,13 +6,6 @@
 
 #include <optional>
 
-struct PixelSize {
-    int Width = 0;
-    int Height = 0;
-
-    bool operator==(const PixelSize&) const = default;
-};
-
 // What a desktop says of the window, in pixels.
 struct Desktop {
     PixelSize Window;  // without its borders

@@ -109,7 +109,7 @@ void MainWindow::ShowBoard()
         setWindowTitle(caption);
     const Scale& scale = size_.Present();
     const bool rescaled = scale != std::exchange(shownAt_, scale);
-    ShowControls(controls_, game_.board, scale, rescaled);
+    ShowControls(controls_, session_, game_.board, scale, rescaled);
 }
 
 void MainWindow::TakeOutOfPlay()
@@ -138,8 +138,7 @@ void MainWindow::PaintNow()
 
 Answer MainWindow::Ask(const Message& message)
 {
-    const PixelRect room = RoomForMessages(game_.board, size_.Present());
-    return AskPlayer(*this, room, message);
+    return AskPlayer(*this, session_, game_.board, size_.Present(), message);
 }
 
 // Nothing is to be saved, and handlers, messages and the window may all be in the middle of their
@@ -164,9 +163,14 @@ std::int64_t MainWindow::Milliseconds() const
     return clock_.elapsed();
 }
 
-void MainWindow::OpenHowToPlay()
+int MainWindow::DoubleClickMilliseconds() const
 {
-    ::OpenHowToPlay();
+    return QApplication::doubleClickInterval();
+}
+
+bool MainWindow::OpenHowToPlay()
+{
+    return ::OpenHowToPlay();
 }
 
 Desktop MainWindow::LookAtDesktop()
