@@ -32,5 +32,6 @@ void Alarms::SetNext()
             next = at;
     }
     if (next)
-        front_.WakeAfter(static_cast<int>(std::max<std::int64_t>(0, *next - front_.Milliseconds())));
+        front_.WakeAfter(
+            static_cast<int>(std::max<std::int64_t>(0, *next - front_.Milliseconds())));
 }

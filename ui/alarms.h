@@ -18,7 +18,8 @@ public:
     // After so many milliseconds, and not when it was set to before.
     void Set(Alarm alarm, int milliseconds);
 
-    // The front end calls: true for an alarm that is due, and then no more. The others are set anew.
+    // The front end calls: true for an alarm that is due, and then no more. The others are set
+    // anew.
     bool TakeDue(Alarm alarm);
     void SetNext();
 

@@ -44,6 +44,6 @@ private:
     News waiting_;
     std::string messages_; // that have been read since something was told last
     bool goHasPassed_ = false;
-    int handlers_ = 0; // under way
+    int handlers_ = 0;            // under way
     std::int64_t quietUntil_ = 0; // by the front end's clock
 };

@@ -7,8 +7,7 @@
 namespace {
 
 // The boxes of the row that hold another letter now.
-std::vector<const Part*> Differing(
-    const char* row, const LetterRow& before, const LetterRow& now)
+std::vector<const Part*> Differing(const char* row, const LetterRow& before, const LetterRow& now)
 {
     std::vector<const Part*> boxes;
     for (int box = 1; box <= lettersPerWord; ++box) {

@@ -1,5 +1,6 @@
-// What the computer's go has changed: its score, its word, and the two boxes of its swap. After a deal
-// the letter rows are left out, as everything is new there; and all of it when a game begins or ends.
+// What the computer's go has changed: its score, its word, and the two boxes of its swap. After a
+// deal the letter rows are left out, as everything is new there; and all of it when a game begins
+// or ends.
 #pragma once
 
 #include <vector>

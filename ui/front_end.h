@@ -23,7 +23,8 @@ public:
     // The control that has the focus, or nullptr.
     virtual const Part* Focused() const = 0;
 
-    // Gives it the focus, which Session::FocusCame is told. What is in a box to type in is selected.
+    // Gives it the focus, which Session::FocusCame is told. What is in a box to type in is
+    // selected.
     virtual void Focus(const Part& part) = 0;
 
     // Paints what is shown and runs the pending input, then returns.
@@ -39,8 +40,8 @@ public:
     // Has a screen reader say the text.
     virtual void Say(const std::string& text) = 0;
 
-    // Calls Session::Wake once, after so many milliseconds from now. A later call takes the place of
-    // one that has not come to pass.
+    // Calls Session::Wake once, after so many milliseconds from now. A later call takes the place
+    // of one that has not come to pass.
     virtual void WakeAfter(int milliseconds) = 0;
 
     // Since any moment that stays the same.

@@ -129,7 +129,7 @@ GuessRows::Move GuessRows::Press(const Part& box, const KeyPress& key)
 const Part* GuessRows::Gap(const Part* after) const
 {
     for (const Part* box = after == nullptr ? BoxAt(0, 1) : After(*after); box != nullptr;
-         box = After(*box)) {
+        box = After(*box)) {
         if (TextOf(*box).empty())
             return box;
     }

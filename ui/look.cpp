@@ -35,8 +35,9 @@ Edge EdgeOf(const Part& part, const Board& board)
     if (!IsEnabled(part, board))
         return Edge::OutOfPlay;
     const bool tile = part.Row->Is == Kind::LetterTile && part.Clicked->Control != "SwapLetters";
-    return !tile || part.Clicked->Works(board, static_cast<std::int16_t>(part.Number)) ? Edge::Raised
-                                                                                     : Edge::Flat;
+    return !tile || part.Clicked->Works(board, static_cast<std::int16_t>(part.Number))
+        ? Edge::Raised
+        : Edge::Flat;
 }
 
 // After "+" the red letter cannot be clicked and is in play.
@@ -95,7 +96,8 @@ struct ReadField {
     // A tick, or the number of the option that is chosen.
     void operator()(std::int16_t Board::* number) const
     {
-        look.Chosen = part.Row->Is == Kind::Check ? board.*number != 0 : board.*number == part.Number;
+        look.Chosen
+            = part.Row->Is == Kind::Check ? board.*number != 0 : board.*number == part.Number;
     }
     template <typename Flagged> void operator()(Flagged Board::* /*flag*/) const { }
 };

@@ -28,7 +28,7 @@ struct Look {
     std::string Faint; // a letter that is in the hand, shown in the box that it came from
     std::string Above; // of a guess: the letter that the hidden word shows at this place
     bool Enabled = true;
-    bool OnView = true; // and so are the frames around it
+    bool OnView = true;  // and so are the frames around it
     bool Chosen = false; // the option, or ticked
     Edge Border = Edge::Flat;
     Mark Marked = Mark::None;

@@ -24,7 +24,7 @@ Message AskedQuestion(const std::string& text, const std::string& title);
 // Where a message stands, with its frame, in pixels of the window. Measure gives the size that it
 // needs when it is no wider than so many pixels. It lies over the buttons that end a go, which do
 // nothing meanwhile, so that the hand stays where it is; where it does not fit there, over the used
-// words. No letter row, hidden word, guess or score is covered. The pointer, where there is one, never
-// is over a question whose No ends the program.
+// words. No letter row, hidden word, guess or score is covered. The pointer, where there is one,
+// never is over a question whose No ends the program.
 PixelRect PlaceOfMessage(const Message& message, const Board& board, const Scale& scale,
     const std::function<PixelSize(int widest)>& measure, std::optional<PixelPoint> pointer);

@@ -93,7 +93,8 @@ std::string MoveOfHand(const Board& told, const Board& now)
         return moved + swapped == 0 ? held + " in your hand" : "";
 
     const std::string& come = now.Text1(with.HeldIndex).Text;
-    if (told.SwapLetters(1).Enabled && !now.SwapLetters(1).Enabled && moved == swapped && moved <= 1)
+    if (told.SwapLetters(1).Enabled && !now.SwapLetters(1).Enabled && moved == swapped
+        && moved <= 1)
         return come + " for " + held + ", " + noMoreSwaps;
     if (swapped != 0)
         return "";
@@ -209,7 +210,8 @@ News PlayedSince(const Board& before, const Board& now, const std::string& messa
         played += " " + words.back();
     // Where the bonus has not risen yet the computer claims the game, and its score is another.
     if (now.Text9.Text != before.Text9.Text)
-        played += " for " + PlainForm(points(yours ? &Board::YourScore : &Board::MyScore)) + " points";
+        played
+            += " for " + PlainForm(points(yours ? &Board::YourScore : &Board::MyScore)) + " points";
     return {played};
 }
 
@@ -235,8 +237,8 @@ std::string HiddenWordsOf(const Board& board)
 {
     std::string text;
     for (const HiddenWord& word : hiddenWords)
-        text += (text.empty() ? "Hidden word " : ". Hidden word ") + std::to_string(word.Number) + ": "
-            + Letters(board.*word.Shown, 1, lettersPerWord, "blank");
+        text += (text.empty() ? "Hidden word " : ". Hidden word ") + std::to_string(word.Number)
+            + ": " + Letters(board.*word.Shown, 1, lettersPerWord, "blank");
     return text;
 }
 

@@ -101,7 +101,8 @@ void Session::Deliver(const Part& part)
     marks_ = Marks();
     const bool laysOut = HoldsLetters(game_.board.Text2);
     ::Deliver(game_, *part.Clicked, static_cast<std::int16_t>(part.Number));
-    laidOutWhole_ = laysOut && part.Clicked == FindClick("Text2") && !HoldsLetters(game_.board.Text2);
+    laidOutWhole_
+        = laysOut && part.Clicked == FindClick("Text2") && !HoldsLetters(game_.board.Text2);
 }
 
 void Session::Click(const Part& part)
@@ -367,7 +368,8 @@ bool Session::Walk(const Part& at, const KeyPress& key)
         break;
     case Kind::List: // Up and Down walk the words; Right leaves them
         if (key.Is != Key::Right)
-            return (sideways || (back ? key.AtStart : key.AtEnd)) && key.Is != Key::Home && key.Is != Key::End;
+            return (sideways || (back ? key.AtStart : key.AtEnd)) && key.Is != Key::Home
+                && key.Is != Key::End;
         break;
     default:
         break;

@@ -18,7 +18,8 @@ struct Part;
 
 class Session {
 public:
-    // Loads the level panel into the board. Both outlive this. The front end is called from Start on.
+    // Loads the level panel into the board. Both outlive this. The front end is called from Start
+    // on.
     Session(Game& game, FrontEnd& front);
 
     void Start();
@@ -29,12 +30,12 @@ public:
     // A click on the part, by mouse or finger, by Space, or through a screen reader.
     void Click(const Part& part);
 
-    // A pointer is pressed on the board. False where the press and what it would click do not count: it
-    // is the second half of a double click on what has ended a go or begun a game.
+    // A pointer is pressed on the board. False where the press and what it would click do not
+    // count: it is the second half of a double click on what has ended a go or begun a game.
     bool PointerDown();
 
-    // A drag has left the part by more than the system's distance: false where none starts there. Then
-    // it ends on a part, or on nullptr: elsewhere, by Escape, or as the pointer is taken away.
+    // A drag has left the part by more than the system's distance: false where none starts there.
+    // Then it ends on a part, or on nullptr: elsewhere, by Escape, or as the pointer is taken away.
     bool BeginDrag(const Part& from);
     void EndDrag(const Part* to);
 
@@ -110,10 +111,10 @@ private:
     const Part* led_ = nullptr;     // the focus was led to it by the game, and its help is not said
     const Part* dragged_ = nullptr; // it is under way
     bool messageIsOpen_ = false;
-    std::int64_t openedAt_ = 0;     // by the front end's clock, as the next two
-    std::int64_t pressedAt_ = 0;    // by a pointer
-    std::int64_t pressesFrom_ = 0;  // they count again
-    bool goWentOver_ = false;       // by the handler under way
-    bool laidOutWhole_ = false;     // the last click has placed a sixth letter
+    std::int64_t openedAt_ = 0;    // by the front end's clock, as the next two
+    std::int64_t pressedAt_ = 0;   // by a pointer
+    std::int64_t pressesFrom_ = 0; // they count again
+    bool goWentOver_ = false;      // by the handler under way
+    bool laidOutWhole_ = false;    // the last click has placed a sixth letter
     bool showsFocus_ = false;
 };

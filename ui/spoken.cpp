@@ -31,7 +31,8 @@ std::string SpokenName(const Part& part, const Look& look)
         words += ", none of the letters";
     if (!IsLetterOrNumber(row.Is))
         return words;
-    const std::string text = look.Text.substr(std::min(look.Text.find_first_not_of(' '), look.Text.size()));
+    const std::string text
+        = look.Text.substr(std::min(look.Text.find_first_not_of(' '), look.Text.size()));
     words += text.empty() ? row.SpokenWhenEmpty : ": " + text + row.SpokenWhenFilled;
     if (!look.Faint.empty())
         words += ", " + look.Faint + " is in your hand";

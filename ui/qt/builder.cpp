@@ -5,9 +5,9 @@
 #include "ui/qt/letter_tile.h"
 #include "ui/qt/level_option.h"
 #include "ui/qt/palette.h"
-#include "ui/roster.h"
 #include "ui/qt/titled_frame.h"
 #include "ui/qt/used_words_list.h"
+#include "ui/roster.h"
 
 namespace {
 

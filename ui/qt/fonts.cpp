@@ -152,7 +152,6 @@ void GiveFonts(Controls& controls, double pixelsPerTwip)
 QFont BoardFont(double points, double pixelsPerTwip)
 {
     QFont font(FamilyOf(Face::TimesNewRoman, QFontDatabase::families()));
-    font.setPixelSize(
-        std::max(1, qRound(FullSize({Face::TimesNewRoman, points}, pixelsPerTwip))));
+    font.setPixelSize(std::max(1, qRound(FullSize({Face::TimesNewRoman, points}, pixelsPerTwip))));
     return font;
 }

@@ -78,8 +78,8 @@ void MainWindow::Connect(const BuiltControl& control)
     case Kind::GuessBox: {
         auto& guess = As<GuessBox>(control);
         connect(&guess, &QLineEdit::textEdited, this, [this, &part, &guess](const QString& text) {
-            session_.Edited(part, text.normalized(QString::NormalizationForm_C).toStdString(),
-                guess.Kind());
+            session_.Edited(
+                part, text.normalized(QString::NormalizationForm_C).toStdString(), guess.Kind());
         });
         // Set by whoever plays through a screen reader. What was pasted may have spread by now.
         connect(&guess, &QLineEdit::textChanged, this, [this, &board, &part, &guess] {
@@ -105,7 +105,8 @@ void MainWindow::Connect(const BuiltControl& control)
 
 void MainWindow::ShowBoard()
 {
-    if (const QString caption = QString::fromStdString(game_.board.Caption); windowTitle() != caption)
+    if (const QString caption = QString::fromStdString(game_.board.Caption);
+        windowTitle() != caption)
         setWindowTitle(caption);
     const Scale& scale = size_.Present();
     const bool rescaled = scale != std::exchange(shownAt_, scale);

@@ -23,7 +23,8 @@ class MessageBox : public QDialog {
 public:
     MessageBox(QWidget& window, const Session& session, const Scale& scale, const Message& message)
         : QDialog(&window,
-              Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
+              Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+                  | Qt::WindowCloseButtonHint)
         , session_(session)
         , message_(message)
     {
@@ -107,8 +108,9 @@ Answer AskPlayer(QWidget& window, const Session& session, const Board& board, co
     MessageBox box(window, session, scale, message);
     const QSize frame = window.frameGeometry().size() - window.size();
     const QPoint pointer = window.mapFromGlobal(QCursor::pos());
-    const PixelRect place = PlaceOfMessage(message, board, scale,
-        [&](int widest) { return box.SizeIn(widest, frame); }, PixelPoint{pointer.x(), pointer.y()});
+    const PixelRect place = PlaceOfMessage(
+        message, board, scale, [&](int widest) { return box.SizeIn(widest, frame); },
+        PixelPoint{pointer.x(), pointer.y()});
     box.resize(place.Width - frame.width(), place.Height - frame.height());
     box.move(window.mapToGlobal(QPoint(place.Left, place.Top)));
     box.exec();

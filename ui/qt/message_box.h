@@ -8,7 +8,7 @@ class QWidget;
 
 class Session;
 
-// Opens a box over the window and waits for the button that answers it. Where a program may choose the
-// place of its windows, it stands where ui/message.h says.
+// Opens a box over the window and waits for the button that answers it. Where a program may choose
+// the place of its windows, it stands where ui/message.h says.
 Answer AskPlayer(QWidget& window, const Session& session, const Board& board, const Scale& scale,
     const Message& message);
