@@ -70,19 +70,20 @@ void Session::GoTo(const Part* part)
 }
 
 // The game moves the focus, and says what is new: the box says its letter alone.
-void Session::LeadTo(const Part& part)
+void Session::LeadTo(const Part* part)
 {
-    led_ = &part;
+    if (part == nullptr)
+        return;
+    led_ = part;
     front_.ShowBoard();
-    front_.Focus(part);
-    led_ = &part;
+    front_.Focus(*part);
 }
 
 // What is disabled or hidden while it has the focus would hand it to its neighbour.
 void Session::KeepFocusInPlay()
 {
     if (!StaysInPlay(front_.Focused(), game_.board))
-        GoTo(&WherePlayGoesOn(game_.board));
+        LeadTo(&WherePlayGoesOn(game_.board));
 }
 
 void Session::ShowFocus(bool shows)
@@ -125,9 +126,9 @@ void Session::After(const Part& clicked, const Board& before)
         pressesFrom_ = pressedAt_ + front_.DoubleClickMilliseconds();
     }
     if (CallsForPlay(outcome))
-        LeadTo(WherePlayGoesOn(game_.board));
+        LeadTo(&WherePlayGoesOn(game_.board));
     else if (CallsForGuess(outcome))
-        GoTo(guess_.Gap());
+        LeadTo(guess_.Gap());
 }
 
 bool Session::PointerDown()
@@ -135,6 +136,7 @@ bool Session::PointerDown()
     if (messageIsOpen_)
         return false;
     ShowFocus(false);
+    guess_.SteppedOn(nullptr);
     const std::int64_t now = front_.Milliseconds();
     if (now < pressesFrom_)
         return false;
@@ -200,8 +202,8 @@ void Session::Edited(const Part& box, const std::string& text, Edit edit)
     Show();
     if (to == nullptr)
         return;
+    guess_.SteppedOn(to);
     GoTo(to);
-    guess_.SteppedOn();
 }
 
 void Session::Wrote(const Part& box, const std::string& text)
@@ -223,8 +225,8 @@ void Session::Tick(bool ticked)
 void Session::FocusCame(const Part& part)
 {
     stops_.Came(part);
-    guess_.FocusCame();
-    led_ = nullptr;
+    guess_.FocusCame(part);
+    led_ = &part == led_ ? led_ : nullptr;
 }
 
 void Session::ReachedWord(const std::string& word)

@@ -98,7 +98,7 @@ void Session::Escape()
         return;
     PlaceTheRest(game_.board, [this](const Part& part) { Click(part); });
     if (CanType(game_.board))
-        GoTo(&FindPart("Text1", 1));
+        LeadTo(&FindPart("Text1", 1));
 }
 
 // The letter placed last; with none placed the laying out ends.
@@ -114,7 +114,7 @@ void Session::TakeBack()
     TakeBackLast(board, [this](const Part& part) { Deliver(part); });
     Show();
     announcer_.EndHandler();
-    GoTo(&WherePlayGoesOn(board));
+    LeadTo(&WherePlayGoesOn(board));
 }
 
 // The row does not have the letter: the next box shows it for a moment.
@@ -209,5 +209,5 @@ void Session::Type(const TypedLetter& letter)
     const Part* to = TypeLetter(game_.board, letter, [this](const Part& part) { Click(part); });
     if (to == nullptr && CanType(game_.board))
         Refuse(letter);
-    GoTo(to);
+    LeadTo(to);
 }
