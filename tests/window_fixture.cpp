@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <filesystem>
 #include <fstream>
 #include <regex>
 #include <sstream>
@@ -316,8 +317,10 @@ void Window::AnswerBox(QMessageBox& box)
 
 int main(int argc, char* argv[])
 {
+    // Qt reads this variable as Latin-1, and the folder's name may hold any letter: a name alone.
+    std::filesystem::current_path(QUORVEL_FOLDER_OF_SCREENS);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) // another one shows the tests on a display
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUORVEL_SCREENS);
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens.json");
     QApplication::setStyle(new BoardStyle);
     const QApplication application(argc, argv);
     QFont desktop;
