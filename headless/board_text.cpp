@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cctype>
 #include <functional>
 #include <memory>
 #include <sstream>
@@ -35,7 +34,7 @@ std::string RowText(const LetterRow& row)
         if (letters.empty())
             text += enabled ? '.' : '-';
         else if (letters.size() == 1 && letters >= "a" && letters <= "z")
-            text += enabled ? letters[0] : static_cast<char>(std::toupper(letters[0]));
+            text += enabled ? letters[0] : static_cast<char>(letters[0] - 'a' + 'A');
         else
             text += (enabled ? '(' : '[') + Replaced(letters, ' ', '_') + (enabled ? ')' : ']');
     }
@@ -59,7 +58,7 @@ void SetRow(LetterRow& row, const std::string& text)
         } else if (mark != '.' && mark != '-') {
             Demand(
                 capital || (mark >= 'a' && mark <= 'z'), std::string("no mark of a row: ") + mark);
-            box.Text = static_cast<char>(std::tolower(mark));
+            box.Text = static_cast<char>(capital ? mark - 'A' + 'a' : mark);
         }
     }
     Demand(at == text.size(), "a row has six boxes");

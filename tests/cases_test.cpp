@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 
 namespace {
@@ -23,14 +25,14 @@ void PrintTo(const Case& rule, std::ostream* out)
 std::vector<Case> ReadCases()
 {
     std::vector<Case> cases;
-    for (const std::string file :
-        {"moving_letters", "computer_go", "ending_a_go", "ending_a_game", "start_of_game"}) {
-        std::ifstream stream(QUORVEL_CASES + file + ".txt");
-        for (Script& rule : ReadScripts(stream, file + ".txt")) {
-            rule.name.insert(0, file + ": ");
+    for (const auto& entry : std::filesystem::directory_iterator(QUORVEL_CASES)) {
+        std::ifstream stream(entry.path());
+        for (Script& rule : ReadScripts(stream, entry.path().filename().string())) {
+            rule.name.insert(0, entry.path().stem().string() + ": ");
             cases.push_back({std::move(rule)});
         }
     }
+    std::ranges::sort(cases, {}, &Case::name);
     return cases;
 }
 

@@ -47,13 +47,21 @@ TEST(LexiconFile, ReadsRecords)
         {"a mark within a field is text", "a\"b\"\n", {"a\"b\""}},
         {"long records", longWord + "\n\"" + longWord + "\"\r\na\r\n", {longWord, longWord, "a"}},
         {"UTF-8 of one to four bytes", "aé\n€😀", {"aé", "€😀"}},
-        {"Windows-1252 when it is no UTF-8", "b\xFC\x63her\n\x80\x9F", {"bücher", "€Ÿ"}},
+        {"the first and the last letter of each size",
+            "\x7F\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF",
+            {"\x7F\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF"}},
+        {"Windows-1252 when it is no UTF-8", "b\xFC\x63her\nabcdefg\xFF", {"bücher", "abcdefgÿ"}},
+        {"its letters between ASCII and the others",
+            "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92\x93\x94\x95\x96\x97"
+            "\x98\x99\x9A\x9B\x9C\x9E\x9F",
+            {"€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ"}},
         {"as a whole, so that UTF-8 beside it goes wrong", "é\n\xFC", {"Ã©", "ü"}},
         {"at any place", "abcdefgh,abcdef\xFC", {"abcdefgh", "abcdefü"}},
         {"a letter of UTF-8 cut short", "\n\xC3", {"", "Ã"}},
         {"by a line end", "\xC3\n", {"Ã"}},
         {"after two bytes of three", "\xE2\x82\n", {"â‚"}},
         {"a letter longer than it need be", "\xC0\xAF", {"À¯"}},
+        {"in three bytes", "\xE0\x9F\xBF", {"àŸ¿"}},
         {"a surrogate", "\xED\xA0\x80", {"í\u00A0€"}},
         {"the last surrogate", "\xED\xBF\xBF", {"í¿¿"}},
         {"beyond the last letter", "\xF4\xBF\xBF\xBF", {"ô¿¿¿"}},
@@ -107,6 +115,10 @@ TEST(Passes, LettersSpellAWord)
         {"one of them too often", "bücherslovoéèa", "büüéoo", false},
         {"bytes of two letters are not a third", "аїцqйuэ", "аїццйq", false},
         {"letters whose numbers end alike are two", "ààĠbcdef", "àĠĠbcd", false},
+        {"one of them is there", "ÿĿabcdef", "abcdÿĿ", true},
+        {"and one not, after the last place", "ÿĿabcdef", "abcdÿſ", false},
+        {"letters of three bytes", "काडनपटकखกขฃ", "กขฃกขฃ", false},
+        {"each as often as it is there", "काडनपटกขฃ", "नกाขपฃ", true},
         {"six letters, not six bytes", "словоб", "сло", false},
     };
     for (const SpellCase& row : cases)
@@ -139,6 +151,15 @@ TEST(Passes, PickStopsShortOfTheLastRecord)
     EXPECT_EQ(pick(0), "none");
     EXPECT_EQ(pick(DrawOf(2, 3)), "a");
     EXPECT_EQ(pick(justBelowOne), "b");
+}
+
+TEST(Passes, ChanceThatThreeFirstLettersDiffer)
+{
+    const WordListFile list("apple\nbread\nchess\n\nclean\nbeard\nagain\ndelta\n");
+    LexiconFile lexicon(list.Path());
+    EXPECT_DOUBLE_EQ(ChanceOfThreeFirstLetters(lexicon, 8), 6 * 0.25 * 0.25 * 0.25)
+        << "no position reaches the last record";
+    EXPECT_EQ(ChanceOfThreeFirstLetters(lexicon, 3), 0);
 }
 
 TEST(Passes, CandidatesAreAppendedUntilFull)

@@ -7,7 +7,6 @@
 #include "lexicon/lexicon_file.h"
 
 #include <algorithm>
-#include <cctype>
 #include <stdexcept>
 
 namespace {
@@ -30,8 +29,12 @@ std::vector<Move> PlanGo(const SimplePlayer& player, const Board& board)
 std::string PlainLine(const Board& board)
 {
     std::string line = Line(board, {"you=", "me=", "swap=", "you:", "me:", "bonus:"});
-    std::ranges::transform(line, line.begin(),
-        [](char letter) { return letter == '_' ? ' ' : static_cast<char>(std::tolower(letter)); });
+    for (char& letter : line) {
+        if (letter == '_')
+            letter = ' ';
+        else if (letter >= 'A' && letter <= 'Z')
+            letter = static_cast<char>(letter - 'A' + 'a');
+    }
     return line;
 }
 
