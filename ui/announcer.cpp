@@ -1,6 +1,7 @@
 #include "ui/announcer.h"
 
 #include "game/board.h"
+#include "ui/alarms.h"
 #include "ui/front_end.h"
 
 #include <algorithm>
@@ -15,9 +16,10 @@ constexpr int pauseAfterFrames = 1000;
 
 } // namespace
 
-Announcer::Announcer(const Board& board, FrontEnd& front)
+Announcer::Announcer(const Board& board, FrontEnd& front, Alarms& alarms)
     : board_(board)
     , front_(front)
+    , alarms_(alarms)
     , told_(std::make_unique<Board>(board))
     , seen_(std::make_unique<Board>(board))
 {
@@ -27,7 +29,7 @@ Announcer::~Announcer() = default;
 
 void Announcer::Look()
 {
-    const News played = PlayedSince(*seen_, board_);
+    const News played = PlayedSince(*seen_, board_, messages_);
     waiting_.insert(waiting_.end(), played.begin(), played.end());
     goHasPassed_ = goHasPassed_ || !board_.Label5.Visible;
     // The end of a game sets the scores back as the level panel comes; the last ones count.
@@ -56,15 +58,16 @@ void Announcer::EndHandler()
     Wake();
 }
 
-void Announcer::AfterMessage()
+void Announcer::AfterMessage(const std::string& text)
 {
+    messages_ += text;
     quietUntil_ = front_.Milliseconds() + pauseAfterMessage;
 }
 
 void Announcer::Wake()
 {
     if (handlers_ == 0)
-        front_.WakeAfter(
+        alarms_.Set(Alarm::Announcement,
             static_cast<int>(std::max<std::int64_t>(0, quietUntil_ - front_.Milliseconds())));
 }
 
@@ -76,6 +79,7 @@ void Announcer::Tell()
     const News since = NewsSince(*told_, board_, std::exchange(goHasPassed_, false));
     news.insert(news.end(), since.begin(), since.end());
     *told_ = board_;
+    messages_.clear();
     std::string text;
     for (const std::string& line : news)
         text += text.empty() ? line : ". " + line;

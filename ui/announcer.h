@@ -8,12 +8,13 @@
 #include <memory>
 #include <string>
 
+class Alarms;
 class FrontEnd;
 
 class Announcer {
 public:
-    // Both outlive this.
-    Announcer(const Board& board, FrontEnd& front);
+    // All outlive this.
+    Announcer(const Board& board, FrontEnd& front, Alarms& alarms);
     ~Announcer();
 
     // The board is shown as it is at this moment.
@@ -26,10 +27,10 @@ public:
     void BeginHandler();
     void EndHandler();
 
-    // A message has been answered.
-    void AfterMessage();
+    // A message with this text has been answered.
+    void AfterMessage(const std::string& text);
 
-    // The front end wakes it, as it has asked for.
+    // Its alarm is due.
     void Tell();
 
 private:
@@ -37,10 +38,12 @@ private:
 
     const Board& board_;
     FrontEnd& front_;
+    Alarms& alarms_;
     std::unique_ptr<Board> told_; // as it was when something was told last
     std::unique_ptr<Board> seen_; // as it was shown last
     News waiting_;
+    std::string messages_; // that have been read since something was told last
     bool goHasPassed_ = false;
-    int handlers_ = 0; // under way
+    int handlers_ = 0;            // under way
     std::int64_t quietUntil_ = 0; // by the front end's clock
 };

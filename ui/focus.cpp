@@ -86,8 +86,9 @@ const Part* StepByTab(const Part* from, bool onwards, const TabStops& stops, con
 {
     const auto order = TabOrder();
     const auto count = static_cast<std::ptrdiff_t>(order.size());
-    const auto here = std::ranges::find_if(
-        order, [from](const char* name) { return from != nullptr && name == std::string_view(from->Row->Name); });
+    const auto here = std::ranges::find_if(order, [from](const char* name) {
+        return from != nullptr && name == std::string_view(from->Row->Name);
+    });
     std::ptrdiff_t place = here == order.end() ? (onwards ? -1 : count) : here - order.begin();
     for (std::ptrdiff_t step = 0; step < count; ++step) {
         place = (place + (onwards ? 1 : count - 1)) % count;
@@ -130,6 +131,11 @@ bool StaysInPlay(const Part* focused, const Board& board)
     if (focused == nullptr || !IsOnView(*focused, board) || !IsEnabled(*focused, board))
         return false;
     return !board.Frame1.Visible || focused->Frame == &FindPart("Frame1");
+}
+
+bool EndsGoOrBeginsGame(const Outcome& outcome)
+{
+    return GameBegun(outcome) || GoHandedOver(outcome);
 }
 
 bool CallsForPlay(const Outcome& outcome)

@@ -18,11 +18,12 @@ public:
     bool IsAt(const Part& part, const Board& board) const;
 
 private:
-    std::map<std::string_view, int> boxes_; // by the name of the row; the first box where it has none
+    std::map<std::string_view, int>
+        boxes_; // by the name of the row; the first box where it has none
 };
 
-// The next control of the Tab order that is in reach, onwards or back, round and round; nullptr when
-// there is no other. From nullptr it is the first.
+// The next control of the Tab order that is in reach, onwards or back, round and round; nullptr
+// when there is no other. From nullptr it is the first.
 const Part* StepByTab(const Part* from, bool onwards, const TabStops& stops, const Board& board);
 
 // Left, Right, Home and End go to a box of the row that is in reach; nullptr where there is none.
@@ -42,6 +43,8 @@ struct Outcome {
     const Board& After;
     bool GoWentOver; // "YOUR GO" was off the screen meanwhile
 };
+
+bool EndsGoOrBeginsGame(const Outcome& outcome);
 
 // Whether the focus goes where play goes on; and whether it goes to the first gap of the guess.
 bool CallsForPlay(const Outcome& outcome);

@@ -23,13 +23,15 @@ public:
     // The control that has the focus, or nullptr.
     virtual const Part* Focused() const = 0;
 
-    // Gives it the focus, which Session::FocusCame is told. What is in a box to type in is selected.
+    // Gives it the focus, which Session::FocusCame is told. What is in a box to type in is
+    // selected.
     virtual void Focus(const Part& part) = 0;
 
     // Paints what is shown and runs the pending input, then returns.
     virtual void PaintNow() = 0;
 
-    // Shows the message and returns when it has been answered.
+    // Shows the message and returns when it has been answered; an answer counts once
+    // Session::TakesAnswer says so.
     virtual Answer Ask(const Message& message) = 0;
 
     // Ends the program at once.
@@ -38,13 +40,16 @@ public:
     // Has a screen reader say the text.
     virtual void Say(const std::string& text) = 0;
 
-    // Calls Session::Wake once, after so many milliseconds from now. A later call takes the place of
-    // one that has not come to pass.
+    // Calls Session::Wake once, after so many milliseconds from now. A later call takes the place
+    // of one that has not come to pass.
     virtual void WakeAfter(int milliseconds) = 0;
 
     // Since any moment that stays the same.
     virtual std::int64_t Milliseconds() const = 0;
 
-    // Opens the page that tells how to play.
-    virtual void OpenHowToPlay() = 0;
+    // Within so long a second press of a pointer makes a double click of it.
+    virtual int DoubleClickMilliseconds() const = 0;
+
+    // Opens the page that tells how to play. False where nothing can show it.
+    virtual bool OpenHowToPlay() = 0;
 };

@@ -60,9 +60,20 @@ bool GuessRows::IsKnown(const Part& box) const
     return !look.Above.empty() && look.Text == look.Above;
 }
 
+// The box that a letter goes to when typing has run on into this one.
+const Part* GuessRows::PastKnown(const Part& box, const std::string& letter) const
+{
+    const Part* at = &box;
+    while (at != nullptr && IsKnown(*at) && TextOf(*at) != letter)
+        at = After(*at);
+    return at == nullptr || !IsInSight(*at, board_) ? &box : at;
+}
+
 const Part* GuessRows::Write(const Part& box, const std::string& text, Edit edit)
 {
     const Part* at = &box;
+    if (std::exchange(steppedInto_, false) && edit == Edit::Typed && CountLetters(text) == 1)
+        at = PastKnown(box, text);
     std::string_view rest = text;
     while (CountLetters(rest) > 1 && at->Number < lettersPerWord) {
         const std::string_view whole = rest;
@@ -115,14 +126,12 @@ GuessRows::Move GuessRows::Press(const Part& box, const KeyPress& key)
     }
 }
 
-const Part* GuessRows::Gap() const
+const Part* GuessRows::Gap(const Part* after) const
 {
-    for (int number = 1; number <= lettersPerWord; ++number) {
-        for (int row = 0; row < rows; ++row) {
-            const Part* box = BoxAt(row, number);
-            if (TextOf(*box).empty())
-                return box;
-        }
+    for (const Part* box = after == nullptr ? BoxAt(0, 1) : After(*after); box != nullptr;
+        box = After(*box)) {
+        if (TextOf(*box).empty())
+            return box;
     }
     return nullptr;
 }

@@ -16,10 +16,11 @@ public:
     // The board outlives this.
     explicit GuessRows(Board& board);
 
-    // The box holds this text now, by the player's hand. A letter moves on once it stands in the box.
-    // More of them at once, as a pasted word brings, go on over the row, and what is left then stays
-    // in its last box. The text is composed: a letter is a code point. Returns the box to go on at,
-    // or nullptr.
+    // The box holds this text now, by the player's hand. A letter moves on once it stands in the
+    // box. More of them at once, as a pasted word brings, go on over the row, and what is left then
+    // stays in its last box. A letter that runs on into a known box goes past it, unless it is the
+    // known one. The text is composed: a letter is a code point. Returns the box to go on at, or
+    // nullptr.
     const Part* Write(const Part& box, const std::string& text, Edit edit);
 
     // The box holds this text as it is, whatever it is.
@@ -32,18 +33,20 @@ public:
     };
     Move Press(const Part& box, const KeyPress& key);
 
-    // The focus has come to the box; by a step on from a letter that was typed, Backspace is for that
-    // letter.
+    // The focus has come to the box; by a step on from a letter that was typed, Backspace is for
+    // that letter.
     void FocusCame() { steppedInto_ = false; }
     void SteppedOn() { steppedInto_ = true; }
 
-    // The first empty box, down the columns; nullptr when all are filled.
-    const Part* Gap() const;
+    // The first empty box, row by row, of those that come after the box; from nullptr of all.
+    // nullptr when none is left.
+    const Part* Gap(const Part* after = nullptr) const;
 
 private:
     bool IsKnown(const Part& box) const;
     std::string& TextOf(const Part& box) const;
     const Part* EraseBefore(const Part& box);
+    const Part* PastKnown(const Part& box, const std::string& letter) const;
 
     Board& board_;
     bool steppedInto_ = false;

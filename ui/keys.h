@@ -2,11 +2,30 @@
 // box, are the toolkit's.
 #pragma once
 
-enum class Key { Left, Right, Up, Down, Home, End, Tab, BackTab, Backspace, Escape, Enter, F1 };
+enum class Key {
+    Left,
+    Right,
+    Up,
+    Down,
+    Home,
+    End,
+    Tab,
+    BackTab,
+    Backspace,
+    Escape,
+    Enter,
+    F1,
+    F2,
+    F4,
+    F8,
+    F9,
+    F10,
+};
 
 struct KeyPress {
     Key Is;
-    bool Held = false; // the key repeats by itself
+    bool Held = false;  // the key repeats by itself
+    bool Shift = false; // of a function key
 
     // Where the cursor stands in what has the focus and has a cursor. With text selected it stands
     // at both ends.

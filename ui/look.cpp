@@ -3,9 +3,12 @@
 #include "game/clicks.h"
 #include "game/hidden_words.h"
 #include "game/moving_letters.h"
+#include "game/rows.h"
 #include "ui/part.h"
 #include "ui/roster.h"
 #include "ui/spoken.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -32,8 +35,9 @@ Edge EdgeOf(const Part& part, const Board& board)
     if (!IsEnabled(part, board))
         return Edge::OutOfPlay;
     const bool tile = part.Row->Is == Kind::LetterTile && part.Clicked->Control != "SwapLetters";
-    return !tile || part.Clicked->Works(board, static_cast<std::int16_t>(part.Number)) ? Edge::Raised
-                                                                                     : Edge::Flat;
+    return !tile || part.Clicked->Works(board, static_cast<std::int16_t>(part.Number))
+        ? Edge::Raised
+        : Edge::Flat;
 }
 
 // After "+" the red letter cannot be clicked and is in play.
@@ -41,6 +45,33 @@ bool IsFaded(const Part& part, const Board& board)
 {
     const LetterBox* box = BoxOf(part, board);
     return !IsEnabled(part, board) && !(box == &board.SwapLetters(1) && RedLetterTurnsToo(board));
+}
+
+bool HoldsMark(const Part& part, const std::vector<const Part*>& marked)
+{
+    return std::ranges::find(marked, &part) != marked.end();
+}
+
+// Of a guess: whether the letter is none of those that the hidden words are made of, as one in the
+// other case is.
+bool IsForeign(const std::string& letter, const Board& board)
+{
+    return !letter.empty() && HiddenLetters(board).find(letter) == std::string::npos;
+}
+
+Mark MarkOf(const Part& part, const Board& board, const Marks& marks, const Look& look)
+{
+    if (&part == marks.Refused)
+        return Mark::Refused;
+    if (part.Row->Is == Kind::GuessBox) {
+        if (!look.Above.empty() && look.Text == look.Above)
+            return Mark::Known;
+        return IsForeign(look.Text, board) ? Mark::Foreign : Mark::None;
+    }
+    const bool next = part.Number == board.LayOutNext && part.Clicked == FindClick("Text1");
+    if (next && HoldsLetters(board.Text2))
+        return Mark::Next;
+    return HoldsMark(part, marks.Changed) ? Mark::Changed : Mark::None;
 }
 
 // What the field of the control has to show.
@@ -65,14 +96,15 @@ struct ReadField {
     // A tick, or the number of the option that is chosen.
     void operator()(std::int16_t Board::* number) const
     {
-        look.Chosen = part.Row->Is == Kind::Check ? board.*number != 0 : board.*number == part.Number;
+        look.Chosen
+            = part.Row->Is == Kind::Check ? board.*number != 0 : board.*number == part.Number;
     }
     template <typename Flagged> void operator()(Flagged Board::* /*flag*/) const { }
 };
 
 } // namespace
 
-Look LookOf(const Part& part, const Board& board)
+Look LookOf(const Part& part, const Board& board, const Marks& marks)
 {
     Look look;
     look.Text = part.Row->Caption;
@@ -82,6 +114,8 @@ Look LookOf(const Part& part, const Board& board)
     look.Faded = IsFaded(part, board);
     if (part.Shows != nullptr)
         std::visit(ReadField{part, board, look}, *part.Shows);
+    look.Marked = MarkOf(part, board, marks, look);
     look.Name = SpokenName(part, look);
+    look.Help = SpokenHelp(part);
     return look;
 }

@@ -1,9 +1,10 @@
 #include "ui/message.h"
 
+#include "game/board.h"
 #include "game/questions.h"
 #include "ui/part.h"
 
-#include <algorithm>
+#include <array>
 
 Message Statement(const std::string& text, const std::string& title)
 {
@@ -20,21 +21,58 @@ Message AskedQuestion(const std::string& text, const std::string& title)
     return message;
 }
 
-PixelRect RoomForMessages(const Board& board, const Scale& scale)
+namespace {
+
+// From the client area of the window, in twips.
+TwipRect PlaceNamed(const char* name, int number, const Board& board)
 {
-    const PixelRect words = PlaceInWindow(FindPart("Frame2"), board, scale);
-    const PixelRect guess = PlaceInWindow(FindPart("Command7"), board, scale); // below the words
-    const PixelRect used = PlaceInWindow(FindPart("Frame7"), board, scale);
-    return {words.Left, guess.Top, used.Left + used.Width - words.Left,
-        used.Top + used.Height - guess.Top};
+    return PlaceInTwips(FindPart(name, number), board);
 }
 
-PixelRect PlaceOfMessage(const PixelRect& room, int width, int height, const PixelRect& screen)
+// The rooms that messages may stand in, the first that fits before the others.
+std::array<TwipRect, 2> Rooms(const Board& board)
 {
-    const auto inReach = [](int at, int first, int last) { return std::max(first, std::min(at, last)); };
-    return {inReach(room.Left + room.Width - messageMargin - width, screen.Left,
-                screen.Left + screen.Width - width),
-        inReach(room.Top + room.Height - messageMargin - height, screen.Top,
-            screen.Top + screen.Height - height),
-        width, height};
+    // Down from the buttons that end a go to the computer's letters.
+    const TwipRect buttons = PlaceNamed("Frame10", 0, board);
+    const TwipRect column = PlaceNamed("Frame4", 0, board);
+    const TwipRect letters = PlaceNamed("MyLetters", 1, board);
+    // Right of the guess, down from the bonus.
+    const TwipRect guess = PlaceNamed("Text8", lettersPerWord, board);
+    const TwipRect bonus = PlaceNamed("Text9", 0, board);
+    const TwipRect used = PlaceNamed("Frame7", 0, board);
+    const double left = guess.Left + guess.Width;
+    const double top = bonus.Top + bonus.Height;
+    return {TwipRect{column.Left, buttons.Top, column.Width, letters.Top - buttons.Top},
+        TwipRect{left, top, used.Left + used.Width - left, used.Top + used.Height - top}};
+}
+
+PixelRect InPixels(const TwipRect& twips, const Scale& scale)
+{
+    const auto pixels = [&scale](double of) { return static_cast<int>(of * scale.PixelsPerTwip); };
+    return {scale.Left + pixels(twips.Left), scale.Top + pixels(twips.Top), pixels(twips.Width),
+        pixels(twips.Height)};
+}
+
+bool Holds(const PixelRect& rect, PixelPoint point)
+{
+    return point.Left >= rect.Left && point.Left < rect.Left + rect.Width && point.Top >= rect.Top
+        && point.Top < rect.Top + rect.Height;
+}
+
+} // namespace
+
+PixelRect PlaceOfMessage(const Message& message, const Board& board, const Scale& scale,
+    const std::function<PixelSize(int widest)>& measure, std::optional<PixelPoint> pointer)
+{
+    PixelRect place;
+    for (const TwipRect& twips : Rooms(board)) {
+        const PixelRect room = InPixels(twips, scale);
+        const PixelSize size = measure(room.Width);
+        place = {room.Left + (room.Width - size.Width) / 2, room.Top, size.Width, size.Height};
+        const bool ends = message.Asks && !message.NoIsHarmless;
+        const bool fits = size.Width <= room.Width && size.Height <= room.Height;
+        if (fits && !(ends && pointer && Holds(place, *pointer)))
+            break;
+    }
+    return place;
 }

@@ -3,6 +3,8 @@
 
 #include "ui/places.h"
 
+#include <functional>
+#include <optional>
 #include <string>
 
 struct Message {
@@ -19,14 +21,10 @@ struct Message {
 Message Statement(const std::string& text, const std::string& title);
 Message AskedQuestion(const std::string& text, const std::string& title);
 
-// The part of the board that messages may cover: no letters, scores or hidden words, and not "YOUR
-// GO". In pixels of the window.
-PixelRect RoomForMessages(const Board& board, const Scale& scale);
-
-// Where a box of that size, in pixels, stands: its lower right corner is that of the room, and with
-// it the place of its last button; moved so far that the whole box is on the screen, since the
-// window may lie half off it. All in pixels of the screen.
-PixelRect PlaceOfMessage(const PixelRect& room, int width, int height, const PixelRect& screen);
-
-// The pixels between a message and the edges of its room.
-inline constexpr int messageMargin = 8;
+// Where a message stands, with its frame, in pixels of the window. Measure gives the size that it
+// needs when it is no wider than so many pixels. It lies over the buttons that end a go, which do
+// nothing meanwhile, so that the hand stays where it is; where it does not fit there, over the used
+// words. No letter row, hidden word, guess or score is covered. The pointer, where there is one,
+// never is over a question whose No ends the program.
+PixelRect PlaceOfMessage(const Message& message, const Board& board, const Scale& scale,
+    const std::function<PixelSize(int widest)>& measure, std::optional<PixelPoint> pointer);

@@ -44,11 +44,36 @@ std::string Letters(const LetterRow& row, int first, int last, const std::string
     return letters;
 }
 
-News NewRow(const std::string& name, const LetterRow& told, const LetterRow& now)
+struct NamedRow {
+    LetterRow Board::* Row;
+    const char* Name;
+    const char* Within;
+};
+
+constexpr NamedRow namedRows[] = {
+    {&Board::Text1, "Your letters", "your row"},
+    {&Board::SwapLetters, "Swap letters", "the swap row"},
+    {&Board::MyLetters, "The computer's letters", "the computer's row"},
+};
+
+std::string Whole(const NamedRow& row, const Board& board)
 {
-    if (Differing(told, now) == 0)
+    return std::string(row.Name) + ": " + Letters(board.*row.Row, 1, lettersPerWord, "empty");
+}
+
+News NewRow(const NamedRow& named, const Board& told, const Board& now)
+{
+    const LetterRow& before = told.*named.Row;
+    const LetterRow& row = now.*named.Row;
+    const int differing = Differing(before, row);
+    if (differing == 0)
         return {};
-    return {name + ": " + Letters(now, 1, lettersPerWord, "empty")};
+    int box = 1;
+    while (before(box).Text == row(box).Text)
+        ++box;
+    if (differing == 1 && !row(box).Text.empty() && !before(box).Text.empty())
+        return {row(box).Text + " for " + before(box).Text + " in " + named.Within};
+    return {Whole(named, now)};
 }
 
 // The hand lifts a letter, or puts down the one that it holds; "" when the letters have moved in
@@ -68,7 +93,8 @@ std::string MoveOfHand(const Board& told, const Board& now)
         return moved + swapped == 0 ? held + " in your hand" : "";
 
     const std::string& come = now.Text1(with.HeldIndex).Text;
-    if (told.SwapLetters(1).Enabled && !now.SwapLetters(1).Enabled && moved == swapped && moved <= 1)
+    if (told.SwapLetters(1).Enabled && !now.SwapLetters(1).Enabled && moved == swapped
+        && moved <= 1)
         return come + " for " + held + ", " + noMoreSwaps;
     if (swapped != 0)
         return "";
@@ -87,6 +113,8 @@ std::string LayingOut(const Board& told, const Board& now)
     const int last = now.LayOutNext - 1;
     if (!goesOn && last == 0)
         return "All six letters lifted, to be laid out";
+    if (HoldsLetters(now.Text2) && last == told.LayOutNext - 2)
+        return told.Text1(last + 1).Text + " taken back, " + std::to_string(last) + " of 6";
     if (last < first)
         return "";
     const std::string placed
@@ -96,9 +124,9 @@ std::string LayingOut(const Board& told, const Board& now)
 
 News NewRows(const Board& told, const Board& now)
 {
-    News news = NewRow("Your letters", told.Text1, now.Text1);
-    Add(news, NewRow("Swap letters", told.SwapLetters, now.SwapLetters));
-    Add(news, NewRow("The computer's letters", told.MyLetters, now.MyLetters));
+    News news;
+    for (const NamedRow& row : namedRows)
+        Add(news, NewRow(row, told, now));
     return news;
 }
 
@@ -168,7 +196,7 @@ bool BeginsGame(const Board& before, const Board& now)
         || Replaced(before, now);
 }
 
-News PlayedSince(const Board& before, const Board& now)
+News PlayedSince(const Board& before, const Board& now, const std::string& messages)
 {
     const std::vector<std::string>& words = now.List1.Words();
     if (words.size() <= before.List1.Words().size())
@@ -177,16 +205,41 @@ News PlayedSince(const Board& before, const Board& now)
     const auto points = [&](NumberBox Board::* score) {
         return NumberOf((now.*score).Text) - NumberOf((before.*score).Text);
     };
-    std::string played = (yours ? "You played " : "The computer played ") + words.back();
+    std::string played = yours ? "You played" : "The computer played";
+    if (messages.find(words.back()) == std::string::npos)
+        played += " " + words.back();
     // Where the bonus has not risen yet the computer claims the game, and its score is another.
     if (now.Text9.Text != before.Text9.Text)
-        played += " for " + PlainForm(points(yours ? &Board::YourScore : &Board::MyScore)) + " points";
+        played
+            += " for " + PlainForm(points(yours ? &Board::YourScore : &Board::MyScore)) + " points";
     return {played};
 }
 
 std::string ScoresOf(const Board& board)
 {
     return "You have " + board.YourScore.Text + " points, the computer " + board.MyScore.Text;
+}
+
+std::string ScoresAndBonusOf(const Board& board)
+{
+    return ScoresOf(board) + ". Bonus of the next word: " + Tidied(board.Text9.Text);
+}
+
+std::string AllRowsOf(const Board& board)
+{
+    std::string text;
+    for (const NamedRow& row : namedRows)
+        text += (text.empty() ? "" : ". ") + Whole(row, board);
+    return text;
+}
+
+std::string HiddenWordsOf(const Board& board)
+{
+    std::string text;
+    for (const HiddenWord& word : hiddenWords)
+        text += (text.empty() ? "Hidden word " : ". Hidden word ") + std::to_string(word.Number)
+            + ": " + Letters(board.*word.Shown, 1, lettersPerWord, "blank");
+    return text;
 }
 
 News NewsSince(const Board& told, const Board& now, bool afterGo)
@@ -199,15 +252,22 @@ News NewsSince(const Board& told, const Board& now, bool afterGo)
         return NewLetters(&told, now);
     News news;
     const bool begins = BeginsGame(told, now);
+    const bool newGo = afterGo || begins;
     if (now.Caption != told.Caption)
         news.push_back(Tidied(now.Caption));
-    Add(news, NewLetters(begins ? nullptr : &told, now));
+    if (!newGo)
+        Add(news, Moves(told, now));
+    if (!begins)
+        Add(news, NewLetters(&told, now));
+    if (newGo && now.Label5.Visible)
+        news.emplace_back("Your go");
     if (now.YourScore.Text != told.YourScore.Text || now.MyScore.Text != told.MyScore.Text)
         news.push_back(ScoresOf(now));
     if (now.Text9.Text != told.Text9.Text)
         news.push_back("Bonus of the next word: " + Tidied(now.Text9.Text));
-    Add(news, afterGo || begins ? NewRows(told, now) : Moves(told, now));
-    if ((afterGo || begins) && now.Label5.Visible)
-        news.emplace_back("Your go");
+    if (newGo)
+        Add(news, NewRows(told, now));
+    if (begins)
+        Add(news, NewLetters(nullptr, now));
     return news;
 }

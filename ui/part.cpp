@@ -67,7 +67,8 @@ const Part& FindPart(std::string_view name, int number)
     for (const Part& part : Parts())
         if (name == part.Row->Name && number == part.Number)
             return part;
-    std::fprintf(stderr, "there is no control %s with a box %d\n", std::string(name).c_str(), number);
+    std::fprintf(
+        stderr, "there is no control %s with a box %d\n", std::string(name).c_str(), number);
     std::abort();
 }
 

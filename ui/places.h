@@ -16,6 +16,18 @@ bool Contains(const TwipRect& outer, const TwipRect& inner);
 // The level panel and its backing stand where the board says.
 TwipRect PlaceInTwips(const Part& part, const Board& board);
 
+struct PixelSize {
+    int Width = 0;
+    int Height = 0;
+
+    bool operator==(const PixelSize&) const = default;
+};
+
+struct PixelPoint {
+    int Left = 0;
+    int Top = 0;
+};
+
 struct PixelRect {
     int Left = 0;
     int Top = 0;

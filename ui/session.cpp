@@ -3,13 +3,18 @@
 #include "game/board.h"
 #include "game/clicks.h"
 #include "game/game.h"
+#include "game/rows.h"
 #include "game/start_of_game.h"
+#include "ui/changes.h"
 #include "ui/front_end.h"
 #include "ui/part.h"
 #include "ui/roster.h"
+#include "ui/shortcuts.h"
+#include "ui/taking_back.h"
 
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -25,7 +30,8 @@ Game& Loaded(Game& game)
 Session::Session(Game& game, FrontEnd& front)
     : game_(Loaded(game))
     , front_(front)
-    , announcer_(game.board, front)
+    , alarms_(front)
+    , announcer_(game.board, front, alarms_)
     , guess_(game.board)
 {
 }
@@ -44,6 +50,14 @@ void Session::Show()
     announcer_.Look();
 }
 
+Look Session::LookOf(const Part& part) const
+{
+    Look look = ::LookOf(part, game_.board, marks_);
+    if (&part == led_)
+        look.Help.clear();
+    return look;
+}
+
 // True while nothing on the window answers; what the front end shows is the board's again.
 bool Session::PutsBack()
 {
@@ -58,11 +72,37 @@ void Session::GoTo(const Part* part)
         front_.Focus(*part);
 }
 
+// The game moves the focus, and says what is new: the box says its letter alone.
+void Session::LeadTo(const Part& part)
+{
+    led_ = &part;
+    front_.ShowBoard();
+    front_.Focus(part);
+    led_ = &part;
+}
+
 // What is disabled or hidden while it has the focus would hand it to its neighbour.
 void Session::KeepFocusInPlay()
 {
     if (!StaysInPlay(front_.Focused(), game_.board))
         GoTo(&WherePlayGoesOn(game_.board));
+}
+
+void Session::ShowFocus(bool shows)
+{
+    if (std::exchange(showsFocus_, shows) != shows)
+        front_.ShowBoard();
+}
+
+void Session::Deliver(const Part& part)
+{
+    if (part.Clicked == nullptr)
+        return;
+    marks_ = Marks();
+    const bool laysOut = HoldsLetters(game_.board.Text2);
+    ::Deliver(game_, *part.Clicked, static_cast<std::int16_t>(part.Number));
+    laidOutWhole_
+        = laysOut && part.Clicked == FindClick("Text2") && !HoldsLetters(game_.board.Text2);
 }
 
 void Session::Click(const Part& part)
@@ -72,48 +112,204 @@ void Session::Click(const Part& part)
     const auto before = std::make_unique<Board>(game_.board);
     announcer_.BeginHandler();
     goWentOver_ = false;
-    Deliver(game_, *part.Clicked, static_cast<std::int16_t>(part.Number));
+    Deliver(part);
+    if (goWentOver_)
+        marks_.Changed = ChangedByComputer(*before, game_.board);
     Show();
     announcer_.EndHandler();
-    const Outcome outcome{part, *before, game_.board, goWentOver_};
+    After(part, *before);
+}
+
+void Session::After(const Part& clicked, const Board& before)
+{
+    const Outcome outcome{clicked, before, game_.board, goWentOver_};
+    if (EndsGoOrBeginsGame(outcome)) {
+        stops_ = TabStops();
+        pressesFrom_ = pressedAt_ + front_.DoubleClickMilliseconds();
+    }
     if (CallsForPlay(outcome))
-        GoTo(&WherePlayGoesOn(game_.board));
+        LeadTo(WherePlayGoesOn(game_.board));
     else if (CallsForGuess(outcome))
         GoTo(guess_.Gap());
+}
+
+bool Session::PointerDown()
+{
+    if (messageIsOpen_)
+        return false;
+    ShowFocus(false);
+    const std::int64_t now = front_.Milliseconds();
+    if (now < pressesFrom_)
+        return false;
+    pressedAt_ = now;
+    return true;
+}
+
+bool Session::BeginDrag(const Part& from)
+{
+    const Board& board = game_.board;
+    const bool yellow = from.Clicked == FindClick("Text1");
+    const bool lilac = from.Clicked == FindClick("SwapLetters");
+    if (messageIsOpen_ || board.HeldFlag || HasEmptyBox(board.Text1) || !(yellow || lilac)
+        || !IsInReach(from, board))
+        return false;
+    dragged_ = &from;
+    if (yellow)
+        Click(from);
+    return true;
+}
+
+void Session::EndDrag(const Part* to)
+{
+    const Part* from = std::exchange(dragged_, nullptr);
+    if (from == nullptr || messageIsOpen_)
+        return;
+    const auto is = [this](const Part* part, const char* row) {
+        return part != nullptr && part->Clicked == FindClick(row) && IsInReach(*part, game_.board);
+    };
+    if (is(from, "SwapLetters")) {
+        if (is(to, "Text1")) {
+            Click(*to);
+            Click(*from);
+        }
+        return;
+    }
+    if (!game_.board.HeldLetter.empty())
+        Click(is(to, "Text1") || is(to, "SwapLetters") ? *to : *from);
+}
+
+std::string Session::LetterInHand() const
+{
+    const bool lilac = dragged_ != nullptr && dragged_->Clicked == FindClick("SwapLetters");
+    return lilac ? BoxOf(*dragged_, game_.board)->Text : game_.board.HeldLetter;
 }
 
 bool Session::Press(const KeyPress& key)
 {
     if (messageIsOpen_)
         return true;
+    ShowFocus(true);
     const Part* at = front_.Focused();
-    if (at != nullptr && at->Row->Is == Kind::GuessBox) {
-        const GuessRows::Move move = guess_.Press(*at, key);
-        if (move.Handled) {
-            if (key.Is == Key::Backspace)
-                Show();
-            GoTo(move.To);
-            return true;
-        }
-    }
-    switch (key.Is) {
-    case Key::F1:
-        if (!key.Held)
-            front_.OpenHowToPlay();
+    if (at != nullptr && at->Row->Is == Kind::GuessBox && PressInGuess(*at, key))
         return true;
+    switch (key.Is) {
     case Key::Escape:
-        PlaceTheRest(game_.board, [this](const Part& part) { Click(part); });
+        Escape();
+        return true;
+    case Key::Backspace:
+        if (at != nullptr && at->Row->Is == Kind::GuessBox)
+            return false;
+        if (!key.Held)
+            TakeBack();
         return true;
     case Key::Enter:
         return key.Held || PressEnter(at);
     case Key::Tab:
     case Key::BackTab:
         return StepBy(key.Is == Key::Tab);
-    case Key::Backspace:
-        return false;
-    default:
+    case Key::Left:
+    case Key::Right:
+    case Key::Up:
+    case Key::Down:
+    case Key::Home:
+    case Key::End:
         return at != nullptr && Walk(*at, key);
+    default:
+        return key.Held || PressFunctionKey(key);
     }
+}
+
+bool Session::PressInGuess(const Part& at, const KeyPress& key)
+{
+    if (key.Is == Key::Enter) {
+        const Part* gap = guess_.Gap(&at) != nullptr ? guess_.Gap(&at) : guess_.Gap();
+        if (gap != nullptr)
+            GoTo(gap);
+        else if (!key.Held)
+            Click(FindPart("Command7")); // "Make A Guess"
+        return true;
+    }
+    const GuessRows::Move move = guess_.Press(at, key);
+    if (move.Handled && key.Is == Key::Backspace)
+        Show();
+    GoTo(move.To);
+    return move.Handled;
+}
+
+bool Session::PressFunctionKey(const KeyPress& key)
+{
+    if (key.Is == Key::F1) {
+        if (!front_.OpenHowToPlay())
+            announcer_.Say("The page on playing cannot be shown");
+        return true;
+    }
+    const bool tells = key.Shift && game_.board.Frame2.Visible;
+    for (const Telling& telling : Tellings()) {
+        if (tells && key.Is == telling.Is)
+            announcer_.Say(telling.Tell(game_.board));
+    }
+    for (const Shortcut& shortcut : Shortcuts()) {
+        if (!key.Shift && key.Is == shortcut.Is)
+            Click(FindPart(shortcut.Control));
+    }
+    return true;
+}
+
+// A letter that was taken in the hand goes back to its place.
+void Session::PutBackHeld()
+{
+    if (!game_.board.HeldLetter.empty())
+        Click(FindPart("Text1", game_.board.HeldIndex));
+}
+
+// Ends a drag and a laying out.
+void Session::Escape()
+{
+    EndDrag(nullptr);
+    PutBackHeld();
+    if (!HoldsLetters(game_.board.Text2))
+        return;
+    PlaceTheRest(game_.board, [this](const Part& part) { Click(part); });
+    if (CanType(game_.board))
+        GoTo(&FindPart("Text1", 1));
+}
+
+// The letter placed last; with none placed the laying out ends.
+void Session::TakeBack()
+{
+    const Board& board = game_.board;
+    PutBackHeld();
+    if (!CanType(board) || !(HoldsLetters(board.Text2) || laidOutWhole_))
+        return;
+    if (PlacedSoFar(board) == 0)
+        return Escape();
+    announcer_.BeginHandler(); // shown and told once
+    TakeBackLast(board, [this](const Part& part) { Deliver(part); });
+    Show();
+    announcer_.EndHandler();
+    GoTo(&WherePlayGoesOn(board));
+}
+
+// The row does not have the letter: the next box shows it for a moment.
+void Session::Refuse(const TypedLetter& letter)
+{
+    constexpr int shownFor = 200; // milliseconds
+    const Board& board = game_.board;
+    marks_.Refused = &FindPart("Text1", HoldsLetters(board.Text2) ? board.LayOutNext : 1);
+    alarms_.Set(Alarm::Refusal, shownFor);
+    announcer_.Say("no " + letter.front());
+    front_.ShowBoard();
+}
+
+void Session::Wake()
+{
+    if (alarms_.TakeDue(Alarm::Refusal)) {
+        marks_.Refused = nullptr;
+        front_.ShowBoard();
+    }
+    if (alarms_.TakeDue(Alarm::Announcement))
+        announcer_.Tell();
+    alarms_.SetNext();
 }
 
 // On the level panel it chooses the level that has the focus; on the chosen one it is "OK".
@@ -121,13 +317,18 @@ bool Session::PressEnter(const Part* at)
 {
     if (at == nullptr)
         return false;
+    const auto number = static_cast<std::int16_t>(at->Number);
+    const bool works = at->Clicked != nullptr && IsEnabled(*at, game_.board)
+        && at->Clicked->Works(game_.board, number);
+    if (!works && at->Row->Is != Kind::Check)
+        announcer_.Say("Nothing to do here");
     if (at->Row->Is == Kind::Option && at->Number == game_.board.Level)
         Click(FindPart("Command1"));
     else if (at->Row->Is == Kind::Check)
         Tick(game_.board.Check1 == 0);
     else
         Click(*at);
-    return at->Row->Is != Kind::GuessBox;
+    return true;
 }
 
 // An arrow key goes on from the level that is chosen, and with none chosen it chooses the one that
@@ -165,9 +366,10 @@ bool Session::Walk(const Part& at, const KeyPress& key)
         if (sideways)
             return true; // within the row
         break;
-    case Kind::List: // Left and Right leave it; Up and Down walk the words and leave it at their ends
-        if (!sideways && !(back ? key.AtStart : key.AtEnd))
-            return false;
+    case Kind::List: // Up and Down walk the words; Right leaves them
+        if (key.Is != Key::Right)
+            return (sideways || (back ? key.AtStart : key.AtEnd)) && key.Is != Key::Home
+                && key.Is != Key::End;
         break;
     default:
         break;
@@ -186,7 +388,12 @@ void Session::Type(const TypedLetter& letter)
 {
     if (messageIsOpen_)
         return;
-    GoTo(TypeLetter(game_.board, letter, [this](const Part& part) { Click(part); }));
+    ShowFocus(true);
+    PutBackHeld();
+    const Part* to = TypeLetter(game_.board, letter, [this](const Part& part) { Click(part); });
+    if (to == nullptr && CanType(game_.board))
+        Refuse(letter);
+    GoTo(to);
 }
 
 void Session::Edited(const Part& box, const std::string& text, Edit edit)
@@ -221,6 +428,7 @@ void Session::FocusCame(const Part& part)
 {
     stops_.Came(part);
     guess_.FocusCame();
+    led_ = nullptr;
 }
 
 void Session::ReachedWord(const std::string& word)
@@ -233,10 +441,17 @@ Answer Session::Ask(const Message& message)
 {
     Show();
     messageIsOpen_ = true;
+    openedAt_ = front_.Milliseconds();
     const Answer answer = front_.Ask(message);
     messageIsOpen_ = false;
-    announcer_.AfterMessage();
+    announcer_.AfterMessage(message.Text);
     return answer;
+}
+
+bool Session::TakesAnswer() const
+{
+    constexpr int unread = 250; // milliseconds
+    return front_.Milliseconds() - openedAt_ >= unread;
 }
 
 void Session::Repaint()

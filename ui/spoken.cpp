@@ -25,9 +25,14 @@ std::string SpokenName(const Part& part, const Look& look)
 {
     const Control& row = *part.Row;
     std::string words = WithNumber(*row.Spoken == '\0' ? row.Caption : row.Spoken, part.Number);
+    if (look.Marked == Mark::Known)
+        words += ", known";
+    if (look.Marked == Mark::Foreign)
+        words += ", none of the letters";
     if (!IsLetterOrNumber(row.Is))
         return words;
-    const std::string text = look.Text.substr(std::min(look.Text.find_first_not_of(' '), look.Text.size()));
+    const std::string text
+        = look.Text.substr(std::min(look.Text.find_first_not_of(' '), look.Text.size()));
     words += text.empty() ? row.SpokenWhenEmpty : ": " + text + row.SpokenWhenFilled;
     if (!look.Faint.empty())
         words += ", " + look.Faint + " is in your hand";

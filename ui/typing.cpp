@@ -6,12 +6,6 @@
 
 namespace {
 
-// While it is the player's go, with no level to choose.
-bool CanType(const Board& board)
-{
-    return board.Label5.Visible && !board.Frame1.Visible;
-}
-
 // The first box of the row that holds the letter: as it was typed, or else in another case. 0 when
 // none does.
 int BoxWith(const LetterRow& row, const TypedLetter& letter)
@@ -26,6 +20,11 @@ int BoxWith(const LetterRow& row, const TypedLetter& letter)
 }
 
 } // namespace
+
+bool CanType(const Board& board)
+{
+    return board.Label5.Visible && !board.Frame1.Visible;
+}
 
 const Part* TypeLetter(const Board& board, const TypedLetter& letter, const Clicker& click)
 {

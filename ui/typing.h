@@ -14,6 +14,9 @@ using TypedLetter = std::vector<std::string>;
 // Delivers a click as the player's own would be.
 using Clicker = std::function<void(const Part& part)>;
 
+// While it is the player's go, with no level to choose.
+bool CanType(const Board& board);
+
 // The letter lays out the player's letters, if that is not under way, and puts the first tile that
 // bears it in its place. Returns where the focus belongs, or nullptr where nothing has been placed.
 const Part* TypeLetter(const Board& board, const TypedLetter& letter, const Clicker& click);

@@ -76,8 +76,8 @@ bool WindowSize::HasRoomOfItsOwn(const Desktop& desktop) const
 void WindowSize::FillRoom(const Desktop& desktop)
 {
     const PixelSize board = BoardSize();
-    const double scale = std::min(1.0 * desktop.Window.Width / board.Width,
-        1.0 * desktop.Window.Height / board.Height);
+    const double scale = std::min(
+        1.0 * desktop.Window.Width / board.Width, 1.0 * desktop.Window.Height / board.Height);
     scale_ = {scale, Rounded((desktop.Window.Width - board.Width * scale) / 2),
         Rounded((desktop.Window.Height - board.Height * scale) / 2)};
 }

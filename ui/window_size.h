@@ -6,18 +6,11 @@
 
 #include <optional>
 
-struct PixelSize {
-    int Width = 0;
-    int Height = 0;
-
-    bool operator==(const PixelSize&) const = default;
-};
-
 // What a desktop says of the window, in pixels.
 struct Desktop {
-    PixelSize Window;  // without its borders
-    PixelSize Borders; // of both sides together
-    PixelSize Screen;  // the room on it
+    PixelSize Window;       // without its borders
+    PixelSize Borders;      // of both sides together
+    PixelSize Screen;       // the room on it
     bool GivesRoom = false; // maximised, or in full screen
     bool Minimised = false;
 };
@@ -38,8 +31,8 @@ public:
 
     const Scale& Present() const { return scale_; }
 
-    // At every change: maximised, in full screen, or where the desktop insists on a size, the board is
-    // as large as the room. Otherwise the window has its one outer size, in whole pixels, never
+    // At every change: maximised, in full screen, or where the desktop insists on a size, the board
+    // is as large as the room. Otherwise the window has its one outer size, in whole pixels, never
     // smaller than its contents and never larger than the screen.
     Wish Form_Resize(const Desktop& desktop);
     Wish AskAgain(const Desktop& desktop);

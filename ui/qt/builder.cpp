@@ -5,12 +5,9 @@
 #include "ui/qt/letter_tile.h"
 #include "ui/qt/level_option.h"
 #include "ui/qt/palette.h"
-#include "ui/roster.h"
-#include "ui/spoken.h"
 #include "ui/qt/titled_frame.h"
 #include "ui/qt/used_words_list.h"
-
-#include <string>
+#include "ui/roster.h"
 
 namespace {
 
@@ -62,16 +59,6 @@ QWidget* MakeWidget(QWidget* parent, const Control& row)
     return nullptr;
 }
 
-// What a reader says of it all its life; names that change are shown with the board.
-void GiveWords(const BuiltControl& control)
-{
-    // Help is said once for all boxes. A blank keeps the others from saying their tool tip instead.
-    const std::string help = SpokenHelp(*control.Is);
-    control.Widget->setAccessibleDescription(
-        control.Is->Number <= 1 ? QString::fromStdString(help) : QStringLiteral(" "));
-    control.Widget->setToolTip(QString::fromUtf8(control.Is->Row->ToolTip));
-}
-
 } // namespace
 
 Controls BuildControls(QWidget& window)
@@ -85,7 +72,7 @@ Controls BuildControls(QWidget& window)
         widget->setAttribute(Qt::WA_InputMethodEnabled); // for letters that keys compose
         controls.push_back({&part, widget});
         GiveColours(controls.back());
-        GiveWords(controls.back());
+        widget->setToolTip(QString::fromUtf8(part.Row->ToolTip));
     }
     return controls;
 }

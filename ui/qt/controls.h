@@ -16,8 +16,8 @@ struct BuiltControl {
 // In the order of Parts().
 using Controls = std::vector<BuiltControl>;
 
-// The widget, which has to be of that class: another is a mistake of ours and stops the program with
-// the name of the control.
+// The widget, which has to be of that class: another is a mistake of ours and stops the program
+// with the name of the control.
 template <typename Widget> Widget& As(const BuiltControl& control);
 [[noreturn]] void StopOverWrongKind(const BuiltControl& control);
 

@@ -1,6 +1,5 @@
 #include "ui/qt/drawing.h"
 
-#include "ui/look.h"
 #include "ui/places.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/guess_box.h"
@@ -9,6 +8,7 @@
 #include "ui/qt/titled_frame.h"
 #include "ui/qt/used_words_list.h"
 #include "ui/roster.h"
+#include "ui/session.h"
 
 #include <QAbstractButton>
 
@@ -69,6 +69,10 @@ void ShowLook(const BuiltControl& control, const Look& look)
         break;
     }
     GiveName(*control.Widget, QString::fromStdString(look.Name));
+    // A blank keeps a reader from saying the tool tip instead.
+    const QString help = QString::fromStdString(look.Help);
+    const bool tip = !control.Widget->toolTip().isEmpty();
+    control.Widget->setAccessibleDescription(help.isEmpty() && tip ? QStringLiteral(" ") : help);
 }
 
 void SetLine(const BuiltControl& control, int line)
@@ -84,12 +88,13 @@ void SetLine(const BuiltControl& control, int line)
 
 } // namespace
 
-void ShowControls(Controls& controls, const Board& board, const Scale& scale, bool rescaled)
+void ShowControls(Controls& controls, const Session& session, const Board& board,
+    const Scale& scale, bool rescaled)
 {
     for (BuiltControl& control : controls) {
         QWidget& widget = *control.Widget;
         const Part& part = *control.Is;
-        ShowLook(control, LookOf(part, board));
+        ShowLook(control, session.LookOf(part));
         const PixelRect place = PlaceOf(part, board, scale);
         widget.setGeometry(place.Left, place.Top, place.Width, place.Height);
         if (rescaled) {

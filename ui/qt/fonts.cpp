@@ -148,3 +148,10 @@ void GiveFonts(Controls& controls, double pixelsPerTwip)
         control.HasFont = true;
     }
 }
+
+QFont BoardFont(double points, double pixelsPerTwip)
+{
+    QFont font(FamilyOf(Face::TimesNewRoman, QFontDatabase::families()));
+    font.setPixelSize(std::max(1, qRound(FullSize({Face::TimesNewRoman, points}, pixelsPerTwip))));
+    return font;
+}

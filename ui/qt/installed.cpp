@@ -28,9 +28,9 @@ std::filesystem::path PlaceOfWordList()
 #endif
 }
 
-void OpenHowToPlay()
+bool OpenHowToPlay()
 {
     const QFileInfo page(DataFolder() + QStringLiteral("/how-to-play/index.html"));
-    if (page.exists())
-        QDesktopServices::openUrl(QUrl::fromLocalFile(page.canonicalFilePath()));
+    return page.exists()
+        && QDesktopServices::openUrl(QUrl::fromLocalFile(page.canonicalFilePath()));
 }

@@ -5,6 +5,6 @@
 
 std::filesystem::path PlaceOfWordList();
 
-// Shows the page that tells how the game is played, by whatever the desktop opens pages with. Does
-// nothing where the page is missing or nothing opens it.
-void OpenHowToPlay();
+// Shows the page that tells how the game is played, by whatever the desktop opens pages with. False
+// where the page is missing or nothing opens it.
+bool OpenHowToPlay();

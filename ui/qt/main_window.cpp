@@ -78,8 +78,8 @@ void MainWindow::Connect(const BuiltControl& control)
     case Kind::GuessBox: {
         auto& guess = As<GuessBox>(control);
         connect(&guess, &QLineEdit::textEdited, this, [this, &part, &guess](const QString& text) {
-            session_.Edited(part, text.normalized(QString::NormalizationForm_C).toStdString(),
-                guess.Kind());
+            session_.Edited(
+                part, text.normalized(QString::NormalizationForm_C).toStdString(), guess.Kind());
         });
         // Set by whoever plays through a screen reader. What was pasted may have spread by now.
         connect(&guess, &QLineEdit::textChanged, this, [this, &board, &part, &guess] {
@@ -105,11 +105,12 @@ void MainWindow::Connect(const BuiltControl& control)
 
 void MainWindow::ShowBoard()
 {
-    if (const QString caption = QString::fromStdString(game_.board.Caption); windowTitle() != caption)
+    if (const QString caption = QString::fromStdString(game_.board.Caption);
+        windowTitle() != caption)
         setWindowTitle(caption);
     const Scale& scale = size_.Present();
     const bool rescaled = scale != std::exchange(shownAt_, scale);
-    ShowControls(controls_, game_.board, scale, rescaled);
+    ShowControls(controls_, session_, game_.board, scale, rescaled);
 }
 
 void MainWindow::TakeOutOfPlay()
@@ -138,8 +139,7 @@ void MainWindow::PaintNow()
 
 Answer MainWindow::Ask(const Message& message)
 {
-    const PixelRect room = RoomForMessages(game_.board, size_.Present());
-    return AskPlayer(*this, room, message);
+    return AskPlayer(*this, session_, game_.board, size_.Present(), message);
 }
 
 // Nothing is to be saved, and handlers, messages and the window may all be in the middle of their
@@ -164,9 +164,14 @@ std::int64_t MainWindow::Milliseconds() const
     return clock_.elapsed();
 }
 
-void MainWindow::OpenHowToPlay()
+int MainWindow::DoubleClickMilliseconds() const
 {
-    ::OpenHowToPlay();
+    return QApplication::doubleClickInterval();
+}
+
+bool MainWindow::OpenHowToPlay()
+{
+    return ::OpenHowToPlay();
 }
 
 Desktop MainWindow::LookAtDesktop()

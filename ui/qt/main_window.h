@@ -34,7 +34,8 @@ public:
     void Say(const std::string& text) override;
     void WakeAfter(int milliseconds) override;
     std::int64_t Milliseconds() const override;
-    void OpenHowToPlay() override;
+    int DoubleClickMilliseconds() const override;
+    bool OpenHowToPlay() override;
 
 protected:
     bool event(QEvent* event) override;

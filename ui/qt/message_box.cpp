@@ -1,133 +1,118 @@
 #include "ui/qt/message_box.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QMessageBox>
-#include <QScreen>
+#include "ui/qt/fonts.h"
+#include "ui/session.h"
 
 #include <algorithm>
 
+#include <QApplication>
+#include <QCursor>
+#include <QDialog>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
 namespace {
 
-class GameMessage : public QMessageBox {
+// The text, and below it the buttons, in the letters of the board. In pixels of a full-sized board:
+constexpr int margin = 8;
+constexpr double points = 11.25;
+
+class MessageBox : public QDialog {
 public:
-    GameMessage(QWidget& window, const PixelRect& room, const Message& message)
-        : QMessageBox(NoIcon, QString::fromStdString(message.Title),
-              QString::fromStdString(message.Text),
-              message.Asks ? StandardButtons(Yes | No) : StandardButtons(Ok), &window)
-        , room_(room)
-        , escapeAnswers_(message.EscapeAnswers())
+    MessageBox(QWidget& window, const Session& session, const Scale& scale, const Message& message)
+        : QDialog(&window,
+              Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+                  | Qt::WindowCloseButtonHint)
+        , session_(session)
+        , message_(message)
     {
-        // A box has its one size, and is not for maximising.
-        setWindowFlags(
-            Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
-        setTextFormat(Qt::PlainText);
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-        // The readers of its time leave out a text of one or two words; older ones would read the
-        // description after the text.
-        setAccessibleDescription(text());
-#endif
+        setWindowTitle(QString::fromStdString(message.Title));
         setWindowModality(Qt::ApplicationModal);
-        setDefaultButton(message.NoIsHarmless ? No : Yes);
-        Arrange();
+        setFont(BoardFont(points, scale.PixelsPerTwip));
+        text_ = new QLabel(QString::fromStdString(message.Text), this);
+        text_->setObjectName(QStringLiteral("text"));
+        text_->setTextFormat(Qt::PlainText);
+        text_->setWordWrap(true);
+        setAccessibleDescription(text_->text());
+        auto* grid = new QGridLayout(this);
+        const int room = static_cast<int>(margin * 15 * scale.PixelsPerTwip);
+        grid->setContentsMargins(room, room, room, room);
+        grid->setSpacing(room);
+        if (message.Asks) {
+            AddButton(*grid, 1, QStringLiteral("Yes"), Answer::Yes, !message.NoIsHarmless);
+            AddButton(*grid, 2, QStringLiteral("No"), Answer::No, message.NoIsHarmless);
+        } else {
+            AddButton(*grid, 1, QStringLiteral("OK"), Answer::Yes, true);
+        }
+        grid->setColumnStretch(0, 1);
+        grid->addWidget(text_, 0, 0, 1, grid->columnCount());
     }
+
+    // The size with its frame, at most that wide.
+    PixelSize SizeIn(int widest, const QSize& frame)
+    {
+        const QMargins around = layout()->contentsMargins();
+        const int room = widest - frame.width() - around.left() - around.right();
+        const int line = text_->fontMetrics().horizontalAdvance(text_->text()) + 2;
+        text_->setFixedWidth(std::min(line, room));
+        text_->setFixedHeight(text_->heightForWidth(text_->width()));
+        layout()->invalidate();
+        const QSize size = layout()->sizeHint() + frame;
+        return {size.width(), size.height()};
+    }
+
+    Answer Given() const { return answer_; }
 
 protected:
-    // The toolkit fixes the size as it shows the box. Under Wayland a box can be maximised all the
-    // same, and one that keeps its size then ends the program.
-    bool event(QEvent* event) override
+    // Escape and closing the box are an answer only where the message has one for them.
+    void reject() override
     {
-        const bool handled = QMessageBox::event(event);
-        if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-            setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        return handled;
-    }
-
-    // Escape and closing the box are an answer only where the box has one for them. The toolkit
-    // would take them for No, which can end the program.
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (escapeAnswers_ || !event->matches(QKeySequence::Cancel))
-            QMessageBox::keyPressEvent(event);
-    }
-    void closeEvent(QCloseEvent* event) override
-    {
-        if (escapeAnswers_)
-            QMessageBox::closeEvent(event);
-        else
-            event->ignore();
-    }
-
-    // The size is known from here on, and the box is not on the screen yet.
-    void showEvent(QShowEvent* event) override
-    {
-        QMessageBox::showEvent(event);
-        const QRect screen = parentWidget()->screen()->availableGeometry();
-        const QPoint corner = parentWidget()->mapToGlobal(QPoint(room_.Left, room_.Top));
-        const PixelRect place = PlaceOfMessage({corner.x(), corner.y(), room_.Width, room_.Height},
-            width(), height(), {screen.x(), screen.y(), screen.width(), screen.height()});
-        setGeometry(place.Left, place.Top, place.Width, place.Height);
+        if (message_.EscapeAnswers())
+            Give(Answer::No);
     }
 
 private:
-    // The toolkit keeps room for an icon that is not there, and some desktops centre the buttons.
-    void Arrange()
+    void AddButton(QGridLayout& grid, int column, const QString& caption, Answer answer, bool usual)
     {
-        auto* grid = qobject_cast<QGridLayout*>(layout());
-        if (QLayoutItem* indent = grid->itemAtPosition(0, 0); indent && indent->spacerItem())
-            indent->spacerItem()->changeSize(0, 0);
-        grid->setColumnStretch(1, 1); // that of the text, which begins at the left
-        auto* text = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-        text->setContentsMargins(0, 0, 0, 0);
-        const int widest = room_.Width - 2 * messageMargin - grid->contentsMargins().left()
-            - grid->contentsMargins().right();
-        if (text->sizeHint().width() > widest) {
-            text->setWordWrap(true);
-            text->setFixedWidth(widest);
-        }
-        // Wide enough for the title to be read, beside the buttons that window managers add.
-        const int wide = std::min(fontMetrics().horizontalAdvance(windowTitle()) + 160, widest);
-        grid->addItem(new QSpacerItem(wide, 0), grid->rowCount(), 0, 1, grid->columnCount());
-        findChild<QDialogButtonBox*>()->setCenterButtons(false);
-        for (QAbstractButton* button : QMessageBox::buttons())
-            button->setIcon(QIcon());
+        auto* button = new QPushButton(caption, this);
+        button->setAutoDefault(true);
+        button->setDefault(usual);
+        if (usual)
+            button->setFocus();
+        connect(button, &QPushButton::clicked, this, [this, answer] { Give(answer); });
+        grid.addWidget(button, 1, column);
     }
 
-    PixelRect room_;
-    bool escapeAnswers_;
-};
-
-// Keys and clicks that were under way before the box could be seen are not meant for it.
-class DropInput : public QObject {
-public:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    // What was pressed before the message can have been read is not for it.
+    void Give(Answer answer)
     {
-        switch (event->type()) {
-        case QEvent::KeyPress:
-        case QEvent::ShortcutOverride:
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::TouchBegin:
-            return true;
-        default:
-            return false;
-        }
+        if (!session_.TakesAnswer())
+            return;
+        answer_ = answer;
+        done(Accepted);
     }
+
+    const Session& session_;
+    const Message& message_;
+    QLabel* text_ = nullptr;
+    Answer answer_ = Answer::No;
 };
 
 } // namespace
 
-Answer AskPlayer(QWidget& window, const PixelRect& room, const Message& message)
+Answer AskPlayer(QWidget& window, const Session& session, const Board& board, const Scale& scale,
+    const Message& message)
 {
-    GameMessage box(window, room, message);
-    box.show();
-    DropInput dropInput;
-    qApp->installEventFilter(&dropInput);
-    QCoreApplication::processEvents();
-    qApp->removeEventFilter(&dropInput);
-    return box.exec() == QMessageBox::No ? Answer::No : Answer::Yes;
+    MessageBox box(window, session, scale, message);
+    const QSize frame = window.frameGeometry().size() - window.size();
+    const QPoint pointer = window.mapFromGlobal(QCursor::pos());
+    const PixelRect place = PlaceOfMessage(
+        message, board, scale, [&](int widest) { return box.SizeIn(widest, frame); },
+        PixelPoint{pointer.x(), pointer.y()});
+    box.resize(place.Width - frame.width(), place.Height - frame.height());
+    box.move(window.mapToGlobal(QPoint(place.Left, place.Top)));
+    box.exec();
+    return box.Given();
 }

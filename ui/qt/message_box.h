@@ -6,6 +6,9 @@
 
 class QWidget;
 
-// Opens a box over the window and waits for the button that answers it. The room is in pixels of the
-// window; where a program may choose the place of its windows, the box stands there.
-Answer AskPlayer(QWidget& window, const PixelRect& room, const Message& message);
+class Session;
+
+// Opens a box over the window and waits for the button that answers it. Where a program may choose
+// the place of its windows, it stands where ui/message.h says.
+Answer AskPlayer(QWidget& window, const Session& session, const Board& board, const Scale& scale,
+    const Message& message);

@@ -26,12 +26,18 @@ constexpr std::pair<Qt::Key, Key> keys[] = {
     {Qt::Key_Return, Key::Enter},
     {Qt::Key_Enter, Key::Enter},
     {Qt::Key_F1, Key::F1},
+    {Qt::Key_F2, Key::F2},
+    {Qt::Key_F4, Key::F4},
+    {Qt::Key_F8, Key::F8},
+    {Qt::Key_F9, Key::F9},
+    {Qt::Key_F10, Key::F10},
 };
 
 std::optional<Key> KeyOf(const QKeyEvent& event)
 {
     Qt::KeyboardModifiers with = event.modifiers() & ~Qt::KeypadModifier;
-    if (event.key() == Qt::Key_Backtab)
+    const bool function = event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12;
+    if (event.key() == Qt::Key_Backtab || function)
         with &= ~Qt::ShiftModifier;
     for (const auto& [key, meant] : keys) {
         if (event.key() == key && (with == Qt::NoModifier || meant == Key::Enter))
@@ -120,7 +126,9 @@ bool PlayerEvents::IsHeldEnter(const QKeyEvent& key, bool press)
 bool PlayerEvents::Press(const QWidget& widget, const QKeyEvent& event)
 {
     if (const std::optional<Key> key = KeyOf(event)) {
-        KeyPress press{*key, event.isAutoRepeat()};
+        KeyPress press{.Is = *key,
+            .Held = event.isAutoRepeat(),
+            .Shift = event.modifiers().testFlag(Qt::ShiftModifier)};
         TellCursor(widget, press);
         return session_.Press(press);
     }

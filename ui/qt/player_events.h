@@ -8,8 +8,8 @@
 class QKeyEvent;
 class Session;
 
-// For the whole application. A held Enter would click on and on, and answer the messages unread; here
-// it counts once. A held Space does of itself.
+// For the whole application. A held Enter would click on and on, and answer the messages unread;
+// here it counts once. A held Space does of itself.
 class PlayerEvents : public QObject {
 public:
     // All outlive this.

@@ -19,7 +19,8 @@ UsedWordsList::UsedWordsList(QWidget* parent)
 void UsedWordsList::SetWords(const QStringList& words)
 {
     int same = 0;
-    while (same < std::min(count(), static_cast<int>(words.size())) && item(same)->text() == words[same])
+    while (same < std::min(count(), static_cast<int>(words.size()))
+        && item(same)->text() == words[same])
         ++same;
     if (same == count() && same == words.size())
         return;
