@@ -78,7 +78,6 @@ void Session::LeadTo(const Part& part)
     led_ = &part;
     front_.ShowBoard();
     front_.Focus(part);
-    led_ = &part;
 }
 
 // What is disabled or hidden while it has the focus would hand it to its neighbour.
@@ -428,7 +427,10 @@ void Session::FocusCame(const Part& part)
 {
     stops_.Came(part);
     guess_.FocusCame();
-    led_ = nullptr;
+    if (led_ != nullptr && led_ != &part) { // its help is said when the player comes back to it
+        led_ = nullptr;
+        front_.ShowBoard();
+    }
 }
 
 void Session::ReachedWord(const std::string& word)
