@@ -13,7 +13,8 @@ namespace {
 constexpr std::pair<std::string_view, Key> keys[] = {{"Left", Key::Left}, {"Right", Key::Right},
     {"Up", Key::Up}, {"Down", Key::Down}, {"Home", Key::Home}, {"End", Key::End}, {"Tab", Key::Tab},
     {"Backtab", Key::BackTab}, {"Backspace", Key::Backspace}, {"Escape", Key::Escape},
-    {"Enter", Key::Enter}, {"F1", Key::F1}};
+    {"Enter", Key::Enter}, {"F1", Key::F1}, {"F2", Key::F2}, {"F4", Key::F4}, {"F8", Key::F8},
+    {"F9", Key::F9}, {"F10", Key::F10}};
 
 // The bytes of so many letters.
 std::size_t BytesOf(std::string_view text, int letters)
@@ -82,11 +83,20 @@ void Desk::Tick(bool ticked)
     session_->Tick(ticked);
 }
 
-void Desk::PressKey(const std::string& key, bool held)
+void Desk::PressMouse(const Part& part)
 {
+    if (!session_->PointerDown())
+        return;
+    Focus(part);
+    session_->Click(part);
+}
+
+void Desk::PressKey(const Stroke& stroke)
+{
+    const std::string& key = stroke.Key;
     const auto* known = std::ranges::find(keys, key, &std::pair<std::string_view, Key>::first);
     if (known != std::end(keys)) {
-        KeyPress press{known->second, held};
+        KeyPress press{known->second, stroke.Held, stroke.Shift};
         if (IsAtText()) {
             press.AtStart = selected_ || cursor_ == 0;
             press.AtEnd = selected_ || cursor_ == static_cast<int>(CountLetters(TextInFocus()));
@@ -129,7 +139,7 @@ void Desk::ShowBoard()
         Look& look = looks_[IndexOf(part)];
         const bool enabled = look.Enabled;
         const bool onView = look.OnView;
-        look = LookOf(part, board);
+        look = session_->LookOf(part);
         look.Enabled = look.Enabled || enabled;
         look.OnView = look.OnView || onView;
     }
@@ -157,10 +167,7 @@ Answer Desk::Ask(const Message& message)
 {
     CheckShown();
     WakeIfDue();
-    if (message.Asks)
-        return view.AskYesNo(message.Text, message.Title);
-    view.ShowMessage(message.Text, message.Title);
-    return Answer::Yes;
+    return AnswerMessage(message);
 }
 
 void Desk::AfterEvent()
@@ -172,7 +179,7 @@ void Desk::AfterEvent()
 void Desk::CheckShown() const
 {
     for (const Part& part : ::Parts()) {
-        if (looks_[IndexOf(part)] != LookOf(part, board))
+        if (looks_[IndexOf(part)] != session_->LookOf(part))
             throw Fault{ScriptName(part) + " does not show the board: " + Line(board)};
     }
 }

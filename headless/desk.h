@@ -16,7 +16,8 @@ public:
     Session& InSession() override { return *session_; }
     const Part* Focused() const override { return focused_; }
     void Focus(const Part& part) override;
-    void PressKey(const std::string& key, bool held) override;
+    void PressKey(const Stroke& stroke) override;
+    void PressMouse(const Part& part) override;
     void TypeLetter(const std::string& letter) override;
     void Paste(const std::string& text) override;
     void Type(std::string_view row, int index, const std::string& text) override;
@@ -36,7 +37,8 @@ private:
     void Say(const std::string& text) override { PlayedGame::Say(text); }
     void WakeAfter(int milliseconds) override { PlayedGame::WakeAfter(milliseconds); }
     std::int64_t Milliseconds() const override { return PlayedGame::Milliseconds(); }
-    void OpenHowToPlay() override { tell("the page that tells how to play"); }
+    int DoubleClickMilliseconds() const override { return PlayedGame::DoubleClickMilliseconds(); }
+    bool OpenHowToPlay() override { return PlayedGame::OpenHowToPlay(); }
 
     void StartSession();
     void CheckShown() const;

@@ -13,7 +13,10 @@
 namespace {
 
 constexpr std::string_view keyNames[] = {"Left", "Right", "Up", "Down", "Home", "End", "Tab",
-    "Backtab", "Backspace", "Delete", "Escape", "Enter", "Space", "F1"};
+    "Backtab", "Backspace", "Delete", "Escape", "Enter", "Space", "F1", "F2",
+    "F4", "F8", "F9", "F10"};
+
+constexpr int longerThanAnyPause = 60'000; // milliseconds
 
 PlayedGame& Played(HeadlessGame& game)
 {
@@ -22,11 +25,13 @@ PlayedGame& Played(HeadlessGame& game)
 
 Run ReadKey(const std::string& rest)
 {
-    constexpr std::string_view mark = "held-";
-    const bool held = rest.starts_with(mark);
-    const std::string key = rest.substr(held ? mark.size() : 0);
-    Demand(std::ranges::count(keyNames, key) == 1, "no such key");
-    return [=](HeadlessGame& game) { Played(game).PressKey(key, held); };
+    Stroke stroke{rest.substr(rest.find('-') + 1)}; // from the start where there is none
+    stroke.Held = rest.starts_with("held-");
+    stroke.Shift = rest.starts_with("shift-");
+    Demand(std::ranges::count(keyNames, stroke.Key) == 1
+            && (stroke.Key == rest || stroke.Held || stroke.Shift),
+        "no such key");
+    return [=](HeadlessGame& game) { Played(game).PressKey(stroke); };
 }
 
 Run ReadTyping(const std::string& rest)
@@ -53,10 +58,57 @@ Run ReadFocus(const std::string& rest)
     return [&part](HeadlessGame& game) { Played(game).Focus(part); };
 }
 
-Run ReadListen(const std::string& rest)
+Run ReadMouse(const std::string& rest)
+{
+    const Part& part = ReadPart(rest);
+    return [&part](HeadlessGame& game) { Played(game).PressMouse(part); };
+}
+
+Run ReadDrag(const std::string& rest)
+{
+    const Part& part = ReadPart(rest);
+    return [&part](HeadlessGame& game) {
+        if (!Played(game).InSession().BeginDrag(part))
+            game.tell("no drag");
+    };
+}
+
+Run ReadDrop(const std::string& rest)
+{
+    const Part* part = rest.empty() ? nullptr : &ReadPart(rest);
+    return [part](HeadlessGame& game) { Played(game).InSession().EndDrag(part); };
+}
+
+// A word that stands alone.
+template <auto run> Run ReadNothing(const std::string& rest)
 {
     Demand(rest.empty(), "nothing may follow");
-    return [](HeadlessGame& game) { Played(game).tellsWhatIsSaid = true; };
+    return [](HeadlessGame& game) { run(Played(game)); };
+}
+
+void Listen(PlayedGame& game)
+{
+    game.tellsWhatIsSaid = true;
+}
+
+void OpenNoPages(PlayedGame& game)
+{
+    game.opensPages = false;
+}
+
+void TellHand(PlayedGame& game)
+{
+    game.tell("hand " + game.InSession().LetterInHand());
+}
+
+void TellRing(PlayedGame& game)
+{
+    game.tell(game.InSession().ShowsFocus() ? "ring" : "no ring");
+}
+
+void TellAnswer(PlayedGame& game)
+{
+    game.tell(game.InSession().TakesAnswer() ? "takes an answer" : "takes no answer yet");
 }
 
 Run ReadWait(const std::string& rest)
@@ -71,6 +123,8 @@ std::string TextOf(const Look& look)
     text += look.Faint.empty() ? "" : "?" + look.Faint;
     text += look.Above.empty() ? "" : "/" + look.Above;
     text += look.Border == Edge::Raised ? "^" : look.Border == Edge::OutOfPlay ? "#" : "";
+    constexpr const char* marks[] = {"", "=", "%", ">", "-", "'"};
+    text += marks[static_cast<int>(look.Marked)];
     return text + (look.Faded ? "~" : "") + (look.Chosen ? "*" : "") + (look.OnView ? "" : "!");
 }
 
@@ -82,7 +136,7 @@ Run ReadLook(const std::string& rest)
     return [=](HeadlessGame& game) {
         std::string looks = "look " + rest;
         for (const Part& part : Parts())
-            looks += named(part) ? " " + TextOf(LookOf(part, game.board)) : "";
+            looks += named(part) ? " " + TextOf(Played(game).InSession().LookOf(part)) : "";
         game.tell(looks);
     };
 }
@@ -90,7 +144,10 @@ Run ReadLook(const std::string& rest)
 Run ReadName(const std::string& rest)
 {
     const Part& part = ReadPart(rest);
-    return [&part](HeadlessGame& game) { game.tell("name " + LookOf(part, game.board).Name); };
+    return [&part](HeadlessGame& game) { 
+        const Look look = Played(game).InSession().LookOf(part);
+        game.tell("name " + look.Name + (look.Help.empty() ? "" : "; help " + look.Help));
+    };
 }
 
 constexpr EventWord words[] = {
@@ -98,8 +155,15 @@ constexpr EventWord words[] = {
     {"type", ReadTyping},
     {"paste", ReadPaste},
     {"focus", ReadFocus},
-    {"listen", ReadListen},
+    {"mouse", ReadMouse},
+    {"drag", ReadDrag},
+    {"drop", ReadDrop},
     {"wait", ReadWait},
+    {"listen", ReadNothing<Listen>},
+    {"hand", ReadNothing<TellHand>},
+    {"ring", ReadNothing<TellRing>},
+    {"answer", ReadNothing<TellAnswer>},
+    {"no-pages", ReadNothing<OpenNoPages>},
     {"look", ReadLook},
     {"name", ReadName},
 };
@@ -128,10 +192,9 @@ void PlayedGame::Set(const std::string& parts)
 {
     HeadlessGame::Set(parts);
     InSession().Show();
-    const bool muted = std::exchange(muted_, true);
-    InSession().Wake();
-    wakeAt_.reset();
-    muted_ = muted;
+    muted_ = true;
+    Wait(longerThanAnyPause);
+    muted_ = false;
 }
 
 void PlayedGame::PlayComputersGo()
@@ -158,6 +221,25 @@ void PlayedGame::Say(const std::string& text)
 {
     if (tellsWhatIsSaid && !muted_)
         tell("says " + text);
+}
+
+bool PlayedGame::OpenHowToPlay()
+{
+    if (opensPages)
+        tell("how to play");
+    return opensPages;
+}
+
+Answer PlayedGame::AnswerMessage(const Message& message)
+{
+    Answer answer = Answer::Yes;
+    if (message.Asks)
+        answer = view.AskYesNo(message.Text, message.Title);
+    else
+        view.ShowMessage(message.Text, message.Title);
+    if (!InSession().TakesAnswer())
+        Wait(longerThanAnyPause);
+    return answer;
 }
 
 void PlayedGame::WakeIfDue()
