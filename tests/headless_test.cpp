@@ -66,7 +66,10 @@ TEST(BoardCheck, NamesWhatIsBroken)
     for (const auto& [parts, fault] : rows)
         EXPECT_EQ(FindFault(PlayedOn(std::string("board ") + parts).board), fault) << parts;
 
-    PlayedOn game("");
+    PlayedOn game("board used=planet");
+    game.board.UsedWords(1) = "garden";
+    EXPECT_EQ(FindFault(game.board), "the ledger is not the list of used words");
+    game.board.UsedWords(1) = "planet";
     EXPECT_EQ(FindFault(game.board, Moment::InsideAnEvent), "");
     for (Frame* frame : GameFrames(game.board)) {
         frame->Visible = false;
