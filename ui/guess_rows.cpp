@@ -72,7 +72,8 @@ const Part* GuessRows::PastKnown(const Part& box, const std::string& letter) con
 const Part* GuessRows::Write(const Part& box, const std::string& text, Edit edit)
 {
     const Part* at = &box;
-    if (std::exchange(steppedInto_, false) && edit == Edit::Typed && CountLetters(text) == 1)
+    if (std::exchange(steppedInto_, nullptr) == &box && edit == Edit::Typed
+        && CountLetters(text) == 1)
         at = PastKnown(box, text);
     std::string_view rest = text;
     while (CountLetters(rest) > 1 && at->Number < lettersPerWord) {
@@ -104,7 +105,7 @@ const Part* GuessRows::EraseBefore(const Part& box)
 // Left and Right leave a box at the ends of what is in it, and run on from row to row.
 GuessRows::Move GuessRows::Press(const Part& box, const KeyPress& key)
 {
-    const bool stepped = std::exchange(steppedInto_, false);
+    const bool stepped = std::exchange(steppedInto_, nullptr) == &box;
     const auto to = [this](const Part* next) -> Move {
         return next != nullptr && IsInSight(*next, board_) ? Move{true, next} : Move{};
     };

@@ -33,10 +33,10 @@ public:
     };
     Move Press(const Part& box, const KeyPress& key);
 
-    // The focus has come to the box; by a step on from a letter that was typed, Backspace is for
-    // that letter.
-    void FocusCame() { steppedInto_ = false; }
-    void SteppedOn() { steppedInto_ = true; }
+    // Typing has run on into the box, where Backspace is for the letter before and known letters
+    // are passed; until the focus comes to another.
+    void SteppedOn(const Part* into) { steppedInto_ = into; }
+    void FocusCame(const Part& part) { steppedInto_ = &part == steppedInto_ ? &part : nullptr; }
 
     // The first empty box, row by row, of those that come after the box; from nullptr of all.
     // nullptr when none is left.
@@ -49,5 +49,5 @@ private:
     const Part* PastKnown(const Part& box, const std::string& letter) const;
 
     Board& board_;
-    bool steppedInto_ = false;
+    const Part* steppedInto_ = nullptr;
 };

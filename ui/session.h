@@ -86,7 +86,7 @@ private:
     bool PutsBack();
     void Deliver(const Part& part);
     void GoTo(const Part* part);
-    void LeadTo(const Part& part);
+    void LeadTo(const Part* part);
     void KeepFocusInPlay();
     void ShowFocus(bool shows);
     void After(const Part& clicked, const Board& before);
