@@ -207,8 +207,8 @@ void Desk::Insert(const std::string& text)
     const std::string old = selected_ ? "" : TextInFocus();
     const int before = selected_ ? 0 : cursor_;
     std::string whole = old;
-    Write(whole.insert(BytesOf(old, before), text),
-        before + static_cast<int>(CountLetters(text)), Edit::Typed);
+    Write(whole.insert(BytesOf(old, before), text), before + static_cast<int>(CountLetters(text)),
+        Edit::Typed);
 }
 
 // Within the box, as toolkits do.

@@ -1,5 +1,5 @@
-// A front end with no window: it holds what it was last shown, a focus, and where the cursor stands.
-// A game on it stops with a fault where what it shows is not what ui/ says of the board.
+// A front end with no window: it holds what it was last shown, a focus, and where the cursor
+// stands. A game on it stops with a fault where what it shows is not what ui/ says of the board.
 #pragma once
 
 #include "headless/played_game.h"

@@ -12,9 +12,9 @@
 
 namespace {
 
-constexpr std::string_view keyNames[] = {"Left", "Right", "Up", "Down", "Home", "End", "Tab",
-    "Backtab", "Backspace", "Delete", "Escape", "Enter", "Space", "F1", "F2",
-    "F4", "F8", "F9", "F10"};
+constexpr std::string_view keyNames[]
+    = {"Left", "Right", "Up", "Down", "Home", "End", "Tab", "Backtab", "Backspace", "Delete",
+        "Escape", "Enter", "Space", "F1", "F2", "F4", "F8", "F9", "F10"};
 
 constexpr int longerThanAnyPause = 60'000; // milliseconds
 
@@ -144,7 +144,7 @@ Run ReadLook(const std::string& rest)
 Run ReadName(const std::string& rest)
 {
     const Part& part = ReadPart(rest);
-    return [&part](HeadlessGame& game) { 
+    return [&part](HeadlessGame& game) {
         const Look look = Played(game).InSession().LookOf(part);
         game.tell("name " + look.Name + (look.Help.empty() ? "" : "; help " + look.Help));
     };

@@ -1,5 +1,5 @@
-// A game that is played through ui/, as a player with keys, a mouse and a screen reader plays it. The
-// words of scripts for that, beside those of script.h:
+// A game that is played through ui/, as a player with keys, a mouse and a screen reader plays it.
+// The words of scripts for that, beside those of script.h:
 //   key:Left key:held-Enter   a key; also shift-F2
 //   type:pla_x                letters typed one after the other; "_" stands for a blank
 //   paste:arden               a text pasted
@@ -8,9 +8,11 @@
 //   drag:Text1:3 drop:Text1:5 a drag, and its end; "drop" for one that ends elsewhere
 //   wait:200                  so many milliseconds go by
 //   listen                    from here on it is told what a screen reader says
-//   look:Text1                tells what the boxes of a row, or a control, show: "^" raised, "#" out
-//                             of play, "~" faded, "*" chosen, "!" off view, "?x" a faint letter, "/x"
-//                             the letter above a guess, "." for no text; and the marks: "=" known,
+//   look:Text1                tells what the boxes of a row, or a control, show: "^" raised, "#"
+//   out
+//                             of play, "~" faded, "*" chosen, "!" off view, "?x" a faint letter,
+//                             "/x" the letter above a guess, "." for no text; and the marks: "="
+//                             known,
 //                             "%" foreign, ">" next, "-" refused, "'" changed
 //   name:Text1:3              tells what a screen reader says of it
 //   hand ring answer          tells the letter in the hand; whether the focus is shown; whether a
@@ -68,7 +70,8 @@ public:
 protected:
     void AfterEvent() override { WakeIfDue(); }
     void WakeIfDue();
-    Answer AnswerMessage(const Message& message); // as the script has it, once it can have been read
+    Answer AnswerMessage(
+        const Message& message); // as the script has it, once it can have been read
 
 private:
     std::int64_t now_ = 1;

@@ -1,5 +1,5 @@
-// Cases in text, which headless/script.h tells how to read. One that fails shows what happened in the
-// same form.
+// Cases in text, which headless/script.h tells how to read. One that fails shows what happened in
+// the same form.
 #pragma once
 
 #include "headless/script.h"

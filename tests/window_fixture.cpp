@@ -31,7 +31,7 @@ void PlayedWindow::End()
 }
 
 Window::Window()
-    : PlayedGame("", HeadlessPlatform(), this)
+    : PlayedGame("", HeadlessPlatform(20), this)
 {
     UseList("planet\ngarden\nsimple\nplanet\n");
     PlayIn(window.InSession());
@@ -131,8 +131,8 @@ void Window::PressMouse(const Part& part)
 {
     Activate();
     const QWidget& widget = *window.Parts()[IndexOf(part)].Widget;
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
-        widget.mapTo(&window, widget.rect().center()));
+    QTest::mouseClick(
+        window.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window, widget.rect().center()));
 }
 
 void Window::PressKey(const Stroke& stroke)
@@ -189,8 +189,9 @@ void Window::AnswerBox(QWidget& box)
         const QString text = box.findChild<QLabel*>("text")->text();
         const bool asks = box.findChildren<QAbstractButton*>().size() > 1;
         ExpectShown("a message");
-        answer_ = AnswerMessage(
-            {text.toStdString(), box.windowTitle().toStdString(), asks});
+        if (whileOpen)
+            whileOpen(box);
+        answer_ = AnswerMessage({text.toStdString(), box.windowTitle().toStdString(), asks});
     }
     for (auto* button : box.findChildren<QAbstractButton*>()) {
         const QString caption = button->text().remove('&');

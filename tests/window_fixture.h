@@ -72,6 +72,7 @@ public:
 
     // A message is on view: it is answered as the script has it.
     virtual void AnswerBox(QWidget& box);
+    std::function<void(QWidget& box)> whileOpen; // what happens while it is
 
 private:
     void Activate();
