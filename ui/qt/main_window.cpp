@@ -3,6 +3,7 @@
 #include "game/board.h"
 #include "game/game.h"
 #include "ui/message.h"
+#include "ui/qt/box_look.h"
 #include "ui/qt/builder.h"
 #include "ui/qt/drawing.h"
 #include "ui/qt/guess_box.h"
@@ -37,6 +38,7 @@ MainWindow::MainWindow(Game& game)
     , size_(game.board)
     , session_(game, *this)
     , events_(*this, controls_, session_)
+    , pointer_(*this, controls_, session_)
 {
     setWindowIcon(QIcon(u":/quorvel2.png"_s));
     resize(DesignSize().Width, DesignSize().Height);
@@ -48,6 +50,7 @@ MainWindow::MainWindow(Game& game)
     for (const BuiltControl& control : controls_)
         Connect(control);
     qApp->installEventFilter(&events_);
+    qApp->installEventFilter(&pointer_);
     session_.Start();
 }
 
@@ -111,6 +114,8 @@ void MainWindow::ShowBoard()
     const Scale& scale = size_.Present();
     const bool rescaled = scale != std::exchange(shownAt_, scale);
     ShowControls(controls_, session_, game_.board, scale, rescaled);
+    LetRingsShow(*this, session_.ShowsFocus());
+    pointer_.ShowHand();
 }
 
 void MainWindow::TakeOutOfPlay()
