@@ -78,8 +78,8 @@ void MainWindow::Connect(const BuiltControl& control)
     case Kind::GuessBox: {
         auto& guess = As<GuessBox>(control);
         connect(&guess, &QLineEdit::textEdited, this, [this, &part, &guess](const QString& text) {
-            session_.Edited(part, text.normalized(QString::NormalizationForm_C).toStdString(),
-                guess.Kind());
+            session_.Edited(
+                part, text.normalized(QString::NormalizationForm_C).toStdString(), guess.Kind());
         });
         // Set by whoever plays through a screen reader. What was pasted may have spread by now.
         connect(&guess, &QLineEdit::textChanged, this, [this, &board, &part, &guess] {
@@ -105,7 +105,8 @@ void MainWindow::Connect(const BuiltControl& control)
 
 void MainWindow::ShowBoard()
 {
-    if (const QString caption = QString::fromStdString(game_.board.Caption); windowTitle() != caption)
+    if (const QString caption = QString::fromStdString(game_.board.Caption);
+        windowTitle() != caption)
         setWindowTitle(caption);
     const Scale& scale = size_.Present();
     const bool rescaled = scale != std::exchange(shownAt_, scale);
@@ -178,11 +179,15 @@ Desktop MainWindow::LookAtDesktop()
     // A screen can become another size with the window on it, and not all desktops move the window.
     disconnect(ofScreen_);
     ofScreen_ = connect(screen(), &QScreen::availableGeometryChanged, this, [this] { Resized(); });
+    const QRect room = screen()->availableGeometry();
+    const QPoint place = frameGeometry().topLeft() - room.topLeft();
     return {.Window = SizeOf(size()),
         .Borders = SizeOf(frameGeometry().size() - size()),
-        .Screen = SizeOf(screen()->availableGeometry().size()),
-        .GivesRoom = isMaximized() || isFullScreen(),
-        .Minimised = isMinimized()};
+        .Screen = SizeOf(room.size()),
+        .Place = {place.x(), place.y()},
+        .Fills = isMaximized() || isFullScreen(),
+        .Minimised = isMinimized(),
+        .SaysSizeAlone = QGuiApplication::platformName().startsWith("wayland"_L1)};
 }
 
 void MainWindow::Resized()
