@@ -118,7 +118,8 @@ TEST(WordListTool, NamesWhatBreaksTheRules)
         EXPECT_EQ(FindFaults(records), faults);
     }
     EXPECT_EQ(FindFaults({"planet", "garden", "simple"}),
-        Words{"Its records, without the last, have fewer than three first letters."});
+        Words{"Its records, without the last, have fewer than three first letters: add words with "
+              "other ones, in front of the last."});
     Words many(32764, "planet");
     many.insert(many.end(), {"garden", "simple", "purple"});
     EXPECT_TRUE(FindFaults(many).empty());
