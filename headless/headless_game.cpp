@@ -1,6 +1,7 @@
 #include "headless/headless_game.h"
 
 #include "game/clicks.h"
+#include "game/computer_go.h"
 #include "game/hidden_words.h"
 #include "game/rows.h"
 #include "game/start_of_game.h"
@@ -27,7 +28,7 @@ HeadlessGame::HeadlessGame(std::filesystem::path wordList, HeadlessPlatform chan
     , game{board, shown != nullptr ? *shown : view, platform, std::move(wordList)}
 {
     view.during = [this](const std::string& call) { OnCall(call); };
-    StartProgram();
+    HeadlessGame::StartProgram();
 }
 
 void HeadlessGame::StartProgram()
@@ -44,7 +45,7 @@ void HeadlessGame::Play(const Event& event)
 {
     if (!fault_.empty())
         return;
-    if (event.waits) {
+    if (event.when != When::Now) {
         pending_.push_back(event);
         return;
     }
@@ -52,7 +53,8 @@ void HeadlessGame::Play(const Event& event)
         StartProgram();
     try {
         event.run(*this);
-        RunPending();
+        RunPending(When::InRepaint);
+        AfterEvent();
         CheckBoard();
     } catch (const ProgramEnded&) {
         ended_ = true;
@@ -81,15 +83,25 @@ void HeadlessGame::Click(std::string_view control, std::int16_t index)
     Require(!exchanges || !exchanged_, "a second exchange in one go");
     exchanged_ |= exchanges || control == "Command16";
     const int repaints = repaints_;
+    const std::size_t calls = view.calls.size();
+    const bool works = !checked_ || click.Works(board, index);
+    const auto before = works ? decltype(PartsOf(board))() : PartsOf(board);
     ++depth_;
-    Deliver(game, click, index);
+    DeliverClick(click, index);
     --depth_;
+    Require(works || (PartsOf(board) == before && view.calls.size() == calls),
+        "a click does what it was not said to do");
     // Who repaints before the work is done hands the go over, or begins a game.
     if (repaints_ != repaints && control != "SwapLetters") {
         exchanged_ = false;
         Require(board.SwapLetters(1).Enabled || control == "Command3", "a go with no exchange");
     }
     CheckBoard();
+}
+
+void HeadlessGame::DeliverClick(const ::Click& click, std::int16_t index)
+{
+    Deliver(game, click, index);
 }
 
 void HeadlessGame::Type(std::string_view row, int index, const std::string& text)
@@ -100,6 +112,21 @@ void HeadlessGame::Type(std::string_view row, int index, const std::string& text
 void HeadlessGame::Tick(bool ticked)
 {
     board.Check1 = ticked ? 1 : 0;
+}
+
+void HeadlessGame::PlayComputersGo()
+{
+    Command8_Click(game);
+}
+
+void HeadlessGame::Set(const std::string& parts)
+{
+    SetBoard(board, parts);
+}
+
+std::vector<std::pair<std::string, std::string>> HeadlessGame::Parts() const
+{
+    return PartsOf(board);
 }
 
 void HeadlessGame::UseList(const std::string& bytes)
@@ -113,11 +140,14 @@ void HeadlessGame::UseNoList()
     std::filesystem::remove(game.lexicon);
 }
 
-void HeadlessGame::RunPending()
+void HeadlessGame::RunPending(When when)
 {
-    while (!pending_.empty()) {
-        const Event event = std::move(pending_.front());
-        pending_.pop_front();
+    while (true) {
+        const auto next = std::ranges::find(pending_, when, &Event::when);
+        if (next == pending_.end())
+            return;
+        const Event event = std::move(*next);
+        pending_.erase(next);
         event.run(*this);
     }
 }
@@ -127,10 +157,10 @@ void HeadlessGame::OnCall(const std::string& call)
     tell(call);
     CheckCall(call);
     if (call != "repaint")
-        return;
+        return RunPending(When::InMessage);
     ++repaints_;
-    const bool interrupted = !pending_.empty();
-    RunPending();
+    const bool interrupted = std::ranges::count(pending_, When::InRepaint, &Event::when) > 0;
+    RunPending(When::InRepaint);
     interrupted_ = interrupted;
 }
 

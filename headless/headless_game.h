@@ -15,13 +15,22 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+struct Click;
 class HeadlessGame;
+
+enum class When {
+    Now,
+    InRepaint, // in the next, or at the end of the next event if there is none
+    InMessage, // while the next message is open
+};
 
 // What a player does in one step.
 struct Event {
     std::function<void(HeadlessGame& game)> run;
-    bool waits = false; // for the next repaint, or for the end of the next event if there is none
+    When when = When::Now;
 };
 
 class HeadlessGame {
@@ -46,11 +55,20 @@ public:
     // Plays on; after the end of the program it is started again. After a fault nothing is played.
     void Play(const Event& event);
 
-    // Steps of an event, which a game in a window takes by mouse and keys: a click, 0 for a single
-    // control, which tells when it is refused; a text in a box of the guess; "Show Responses".
-    virtual void Click(std::string_view control, std::int16_t index = 0);
+    // Steps of an event: a click, 0 for a single control, which tells when it is refused; a text
+    // that is in a box of the guess now; "Show Responses".
+    void Click(std::string_view control, std::int16_t index = 0);
     virtual void Type(std::string_view row, int index, const std::string& text);
     virtual void Tick(bool ticked);
+
+    // A go of the computer alone, which no click begins.
+    virtual void PlayComputersGo();
+
+    // Sets parts of the board: see board_text.h.
+    virtual void Set(const std::string& parts);
+
+    // All that a script tells of the game: the parts of the board.
+    virtual std::vector<std::pair<std::string, std::string>> Parts() const;
 
     // From here on the game is held to its rules, at every event and every repaint: to those of
     // every board and to those that reach from one event to another.
@@ -63,9 +81,13 @@ public:
     bool Ended() const { return ended_; } // the program, by the last event
     const std::string& FirstFault() const { return fault_; }
 
+protected:
+    virtual void StartProgram();
+    virtual void DeliverClick(const ::Click& click, std::int16_t index);
+    virtual void AfterEvent() { }
+
 private:
-    void StartProgram();
-    void RunPending();
+    void RunPending(When when);
     void OnCall(const std::string& call);
 
     void Fail(const std::string& fault);

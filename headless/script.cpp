@@ -1,7 +1,6 @@
 #include "headless/script.h"
 
 #include "game/clicks.h"
-#include "game/computer_go.h"
 #include "game/hidden_words.h"
 #include "game/rows.h"
 #include "headless/board_text.h"
@@ -91,7 +90,7 @@ template <Answer answer> void LayBy(HeadlessGame& game)
 
 void PlayComputersGo(HeadlessGame& game)
 {
-    Command8_Click(game.game);
+    game.PlayComputersGo();
 }
 
 Run ReadPick(const std::string& rest)
@@ -182,7 +181,7 @@ Run ReadBoard(const std::string& rest)
     const auto board = std::make_unique<Board>();
     board->Level = 1; // as a line before this one may have it
     SetBoard(*board, rest);
-    return [rest](HeadlessGame& game) { SetBoard(game.board, rest); };
+    return [rest](HeadlessGame& game) { game.Set(rest); };
 }
 
 Run ReadLine(const std::string& verb, const std::string& rest, EventWords more)
@@ -210,8 +209,10 @@ Run ReadLine(const std::string& verb, const std::string& rest, EventWords more)
 
 Event ReadEvent(const std::string& word, EventWords more)
 {
-    const bool waits = word.starts_with('~');
-    return {ReadDoing(word.substr(waits ? 1 : 0), more), waits};
+    const When when = word.starts_with('~') ? When::InRepaint
+        : word.starts_with('!')             ? When::InMessage
+                                            : When::Now;
+    return {ReadDoing(word.substr(when == When::Now ? 0 : 1), more), when};
 }
 
 void PlayEvents(HeadlessGame& game, const std::string& events, EventWords more)
@@ -247,10 +248,10 @@ std::vector<Script> ReadScripts(std::istream& stream, const std::string& file, E
     return scripts;
 }
 
-void RunScript(HeadlessGame& game, const std::string& text)
+void RunScript(HeadlessGame& game, const std::string& text, EventWords more)
 {
     std::istringstream stream(text);
-    for (const Script& script : ReadScripts(stream, "script")) {
+    for (const Script& script : ReadScripts(stream, "script", more)) {
         for (const ScriptLine& line : script.lines)
             line.run ? line.run(game) : void();
     }

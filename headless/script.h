@@ -19,7 +19,8 @@
 //   computer            a go of the computer
 //   yes no              an answer laid by for a question; one that finds none gets Yes
 //   ~Text1:4            any of these, but waiting for the next repaint
-// A game of another kind brings words of its own, as in "key:Left".
+//   !Text1:4            the same, while the next message is open
+// A game of another kind brings words of its own: see desk.h.
 #pragma once
 
 #include "headless/headless_game.h"
@@ -57,7 +58,7 @@ std::vector<Script> ReadScripts(
 
 // Runs a script that stands alone. Throws ScriptError before anything is run, but for a board that
 // cannot be played on when its line is reached.
-void RunScript(HeadlessGame& game, const std::string& text);
+void RunScript(HeadlessGame& game, const std::string& text, EventWords more = {});
 
 // Throws ScriptError.
 Event ReadEvent(const std::string& word, EventWords more = {});

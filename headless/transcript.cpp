@@ -4,7 +4,7 @@
 
 Transcript::Transcript(HeadlessGame& game)
     : game_(game)
-    , told_(PartsOf(game.board))
+    , told_(game.Parts())
 {
     game.tell = [this](const std::string& what) {
         const std::string differences = Differences();
@@ -26,7 +26,7 @@ std::vector<std::string> Transcript::Run(const ScriptLine& line)
 std::string Transcript::Differences()
 {
     std::string differences;
-    auto parts = PartsOf(game_.board);
+    auto parts = game_.Parts();
     for (std::size_t k = 0; k < parts.size(); ++k) {
         if (parts[k] != told_[k])
             differences += " " + parts[k].first + parts[k].second;

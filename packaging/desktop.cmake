@@ -1,5 +1,7 @@
 # What a freedesktop menu and `man` look for.
-set(how_to_play ${CMAKE_INSTALL_PREFIX}/share/quorvel2/how-to-play/index.html)
+cmake_path(ABSOLUTE_PATH word_list_folder BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}
+  OUTPUT_VARIABLE how_to_play)
+string(APPEND how_to_play /how-to-play/index.html)
 configure_file(packaging/quorvel2.desktop.in ${made}/quorvel2.desktop @ONLY)
 install(FILES ${made}/quorvel2.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 configure_file(packaging/quorvel2.6.in ${made}/quorvel2.6 @ONLY)

@@ -3,6 +3,7 @@
 #include "window_fixture.h"
 
 #include "headless/board_check.h"
+#include "headless/board_text.h"
 
 #include <QAbstractButton>
 #include <QWindow>
@@ -27,47 +28,49 @@ protected:
         window.activateWindow();
         const int kind = Number(100);
         if (kind < 65) {
-            const auto& [name, control] = *std::next(controls.begin(), Number(controls.size()));
-            PressMouse(control.widget->mapTo(&window, control.widget->rect().center()));
+            const BuiltControl& control = window.Parts()[Index(window.Parts().size())];
+            PressAt(control.Widget->mapTo(&window, control.Widget->rect().center()));
         } else if (kind < 75) {
-            PressMouse({Number(window.width()), Number(window.height())});
+            PressAt({Number(window.width()), Number(window.height())});
         } else if (kind < 96 && window.focusWidget() != nullptr) {
             QTest::keyClick(window.focusWidget(), keys[Number(std::size(keys))],
                 Number(8) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
         } else if (kind < 98) {
             window.setWindowState(states[Number(std::size(states))]);
         } else if (!board.HiddenWords(3).empty()) {
-            SetBoard(board,
-                "guess=" + board.HiddenWords(1) + "/" + board.HiddenWords(2) + "/"
-                    + board.HiddenWords(3));
-            window.ShowBoard();
+            Set("guess=" + board.HiddenWords(1) + "/" + board.HiddenWords(2) + "/"
+                + board.HiddenWords(3));
         }
         if (board.CandidateCount > 0) {
             ASSERT_EQ(FindFault(board), "") << Line(board);
         }
-        ExpectBoardOnView("random");
+        Wait(Number(1000)); // and what is said is said
+        ExpectShown("random");
         ASSERT_FALSE(HasFailure());
     }
 
     // The window manager closes the window, in the middle of whatever is up.
     void CloseWindow()
     {
-        mayEnd = closing_ = true;
+        window.mayEnd = closing_ = true;
         QTimer::singleShot(Number(4), &window, [this] { window.close(); });
         while (true)
             Act();
     }
 
-    void AnswerBox(QMessageBox& box) override
+    void AnswerBox(QWidget& box) override
     {
         if (Number(3) == 0) // the window is out of reach meanwhile
-            PressMouse({Number(window.width()), Number(window.height())});
+            PressAt({Number(window.width()), Number(window.height())});
+        Wait(Number(500));
+        ExpectShown("a message");
+        const auto buttons = box.findChildren<QAbstractButton*>();
         if (box.windowTitle() == "New Game" && !closing_)
-            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+            QTest::mouseClick(buttons.front(), Qt::LeftButton); // "Yes"
         else if (Number(2) == 0)
             QTest::keyClick(&box, Number(2) == 0 ? Qt::Key_Return : Qt::Key_Escape);
         else
-            QTest::mouseClick(box.buttons()[Number(box.buttons().size())], Qt::LeftButton);
+            QTest::mouseClick(buttons[Number(buttons.size())], Qt::LeftButton);
     }
 
 private:
@@ -82,7 +85,9 @@ private:
         return static_cast<int>(chance_() % static_cast<unsigned>(below));
     }
 
-    void PressMouse(QPoint at)
+    std::size_t Index(std::size_t below) { return chance_() % below; }
+
+    void PressAt(QPoint at)
     {
         const auto button = Number(10) == 0 ? Qt::RightButton : Qt::LeftButton;
         for (int clicks = Number(10) == 0 ? 2 : 1; clicks > 0; --clicks)

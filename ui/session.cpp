@@ -243,7 +243,10 @@ void Session::FocusCame(const Part& part)
 {
     stops_.Came(part);
     guess_.FocusCame(part);
-    led_ = &part == led_ ? led_ : nullptr;
+    if (led_ != nullptr && led_ != &part) { // its help is said when the player comes back to it
+        led_ = nullptr;
+        front_.ShowBoard();
+    }
 }
 
 void Session::ReachedWord(const std::string& word)

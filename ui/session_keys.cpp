@@ -97,6 +97,7 @@ void Session::Escape()
     if (!HoldsLetters(game_.board.Text2))
         return;
     PlaceTheRest(game_.board, [this](const Part& part) { Click(part); });
+    laidOutWhole_ = false; // the player has not laid it out
     if (CanType(game_.board))
         LeadTo(&FindPart("Text1", 1));
 }

@@ -184,11 +184,15 @@ Desktop MainWindow::LookAtDesktop()
     // A screen can become another size with the window on it, and not all desktops move the window.
     disconnect(ofScreen_);
     ofScreen_ = connect(screen(), &QScreen::availableGeometryChanged, this, [this] { Resized(); });
+    const QRect room = screen()->availableGeometry();
+    const QPoint place = frameGeometry().topLeft() - room.topLeft();
     return {.Window = SizeOf(size()),
         .Borders = SizeOf(frameGeometry().size() - size()),
-        .Screen = SizeOf(screen()->availableGeometry().size()),
-        .GivesRoom = isMaximized() || isFullScreen(),
-        .Minimised = isMinimized()};
+        .Screen = SizeOf(room.size()),
+        .Place = {place.x(), place.y()},
+        .Fills = isMaximized() || isFullScreen(),
+        .Minimised = isMinimized(),
+        .SaysSizeAlone = QGuiApplication::platformName().startsWith("wayland"_L1)};
 }
 
 void MainWindow::Resized()

@@ -1,0 +1,65 @@
+#include "cases.h"
+
+#include "headless/transcript.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+constexpr const char* beginning = "board hidden=planet/garden/simple you=garden me=planet "
+                                  "swap=simple level:1 panel:no frames:yes candidates=300*zzzzzz\n"
+                                  "list planet garden simple\n";
+
+} // namespace
+
+void PrintTo(const Case& held, std::ostream* out)
+{
+    *out << held.name;
+}
+
+std::string NameOf(const Case& held)
+{
+    std::string name = held.name;
+    for (char& letter : name)
+        letter = std::isalnum(static_cast<unsigned char>(letter)) != 0 ? letter : '_';
+    return name;
+}
+
+std::vector<Case> ReadCases(const std::string& folder, EventWords more)
+{
+    std::vector<Case> cases;
+    for (const auto& entry : std::filesystem::directory_iterator(QUORVEL_CASES + folder)) {
+        if (entry.is_directory())
+            continue;
+        std::ifstream stream(entry.path());
+        for (Script& script : ReadScripts(stream, entry.path().filename().string(), more)) {
+            script.name.insert(0, entry.path().stem().string() + ": ");
+            cases.push_back({std::move(script)});
+        }
+    }
+    std::ranges::sort(cases, {}, &Case::name);
+    return cases;
+}
+
+void ExpectToHold(HeadlessGame& game, const Case& held)
+{
+    RunScript(game, beginning);
+    Transcript transcript(game);
+    std::string happened;
+    std::string expected;
+    for (const ScriptLine& line : held.lines) {
+        expected += line.text + "\n";
+        if (!line.run)
+            continue;
+        happened += line.text + "\n";
+        for (const std::string& told : transcript.Run(line))
+            happened += told + "\n";
+    }
+    EXPECT_EQ(happened, expected) << "== " << held.name << "\n" << happened;
+    EXPECT_TRUE(game.platform.draws.empty()) << "draws that no rule took";
+    EXPECT_TRUE(game.view.answers.empty()) << "answers to no question";
+}
