@@ -53,7 +53,7 @@ Look Session::LookOf(const Part& part) const
     if (&part == led_)
         look.Help.clear();
     if (&part == DraggedLilac())
-        look.Faint = std::exchange(look.Text, "");
+        std::swap(look.Faint, look.Text);
     return look;
 }
 

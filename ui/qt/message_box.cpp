@@ -19,8 +19,8 @@
 namespace {
 
 // In pixels of a full-sized board.
-constexpr int margin = 10;
-constexpr QSize buttonSize(76, 25);
+constexpr int margin = 7;
+constexpr QSize buttonSize(58, 24);
 constexpr double points = 11.25; // of the letters
 
 class MessageBox : public QDialog {
