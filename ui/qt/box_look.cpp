@@ -108,13 +108,13 @@ QColor LineOn(const QColor& ground)
 // Of what stands up: a tone between its line and its ground.
 QColor LipOn(const QColor& ground)
 {
-    return Blend(IsPale(ground) ? Qt::black : Qt::white, ground, IsPale(ground) ? 0.42 : 0.3);
+    return Blend(IsPale(ground) ? Qt::black : Qt::white, ground, IsPale(ground) ? 0.46 : 0.36);
 }
 
 // Of the rim around what lies lower, at its upper left.
 QColor ShadowOn(const QColor& ground)
 {
-    return Blend(Qt::black, ground, IsPale(ground) ? 0.42 : 0.8);
+    return Blend(Qt::black, ground, IsPale(ground) ? 0.46 : 0.8);
 }
 
 QRect Inside(const QRect& box, int by)

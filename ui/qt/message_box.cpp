@@ -20,6 +20,8 @@ namespace {
 
 // In pixels of a full-sized board.
 constexpr int margin = 7;
+constexpr int narrowest
+    = 170; // of the text, so that the title can be read beside the frame's buttons
 constexpr QSize buttonSize(58, 24);
 constexpr double points = 11.25; // of the letters
 
@@ -127,7 +129,8 @@ void MessageBox::TakeScale()
     const int room = Pixels(margin);
     const int line = LineWidth(scale_);
     grid_->setContentsMargins(room, room, room, room);
-    grid_->setSpacing(room);
+    grid_->setHorizontalSpacing(room);
+    grid_->setVerticalSpacing(Pixels(5));
     for (auto* button : findChildren<BoardButton*>()) {
         button->setFixedSize(Pixels(buttonSize.width()), Pixels(buttonSize.height()));
         button->setContentsMargins(line, line, line, line);
@@ -140,7 +143,7 @@ PixelSize MessageBox::SizeIn(int widest, const QSize& frame)
     const QMargins around = grid_->contentsMargins();
     const int room = widest - frame.width() - around.left() - around.right();
     const int line = text_.fontMetrics().horizontalAdvance(text_.text()) + 2;
-    text_.setFixedWidth(std::clamp(line, std::min(2 * Pixels(buttonSize.width()), room), room));
+    text_.setFixedWidth(std::clamp(line, std::min(Pixels(narrowest), room), room));
     text_.setFixedHeight(text_.heightForWidth(text_.width()));
     grid_->invalidate();
     const QSize size = grid_->sizeHint() + frame;
@@ -178,7 +181,9 @@ bool MessageBox::event(QEvent* event)
 // After the window has given the board its size.
 bool MessageBox::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == &window_ && event->type() == QEvent::Resize)
+    const bool resized
+        = event->type() == QEvent::Resize || event->type() == QEvent::WindowStateChange;
+    if (watched == &window_ && resized)
         QMetaObject::invokeMethod(this, [this] { Place(); }, Qt::QueuedConnection);
     return QDialog::eventFilter(watched, event);
 }
