@@ -83,9 +83,14 @@ void HeadlessGame::Click(std::string_view control, std::int16_t index)
     Require(!exchanges || !exchanged_, "a second exchange in one go");
     exchanged_ |= exchanges || control == "Command16";
     const int repaints = repaints_;
+    const std::size_t calls = view.calls.size();
+    const bool works = !checked_ || click.Works(board, index);
+    const auto before = works ? decltype(PartsOf(board))() : PartsOf(board);
     ++depth_;
     DeliverClick(click, index);
     --depth_;
+    Require(works || (PartsOf(board) == before && view.calls.size() == calls),
+        "a click does what it was not said to do");
     // Who repaints before the work is done hands the go over, or begins a game.
     if (repaints_ != repaints && control != "SwapLetters") {
         exchanged_ = false;

@@ -251,10 +251,10 @@ std::vector<Script> ReadScripts(std::istream& stream, const std::string& file, E
     return scripts;
 }
 
-void RunScript(HeadlessGame& game, const std::string& text)
+void RunScript(HeadlessGame& game, const std::string& text, EventWords more)
 {
     std::istringstream stream(text);
-    for (const Script& script : ReadScripts(stream, "script")) {
+    for (const Script& script : ReadScripts(stream, "script", more)) {
         for (const ScriptLine& line : script.lines)
             line.run ? line.run(game) : void();
     }

@@ -58,7 +58,7 @@ std::vector<Script> ReadScripts(
 
 // Runs a script that stands alone. Throws ScriptError before anything is run, but for a board that
 // cannot be played on when its line is reached.
-void RunScript(HeadlessGame& game, const std::string& text);
+void RunScript(HeadlessGame& game, const std::string& text, EventWords more = {});
 
 // Throws ScriptError.
 Event ReadEvent(const std::string& word, EventWords more = {});

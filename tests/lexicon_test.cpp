@@ -177,7 +177,7 @@ TEST(Passes, CandidatesAreAppendedUntilFull)
 
 TEST(Passes, FindReadsNoFurtherThanTheWord)
 {
-    const WordListFile list("planet\ngarden\nsimple");
+    const WordListFile list("planetary\nplanet\ngarden\nsimple");
     LexiconFile lexicon(list.Path());
     lexicon.Open();
     EXPECT_TRUE(FindWord(lexicon, "planet"));

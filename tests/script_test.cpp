@@ -41,6 +41,7 @@ TEST(Script, NamesFileLineAndWordOfWhatSaysNothing)
         {"board you:a", "you:a: \"a\" is not a number from -1000000000000 to 1000000000000"},
         {"board hidden=planet",
             "hidden=planet: three words of six letters have slashes between them"},
+        {"board candidates=0*planet", "candidates=0*planet: \"0\" is not a number from 1 to 2000"},
         {"board go:maybe", "go:maybe: yes or no is wanted"},
         {"board off=Command3", "off=Command3: Command3 arranges no letters"},
         {"board candidates=2001*planet",
@@ -65,7 +66,10 @@ TEST(Script, PlaysAsAWindowWould)
             "refused Command3"}));
     EXPECT_EQ(game.board.Level, 0);
     RunScript(game,
-        "board hidden=planet/garden/simple you=garden level:1 frames:yes\ndo Command6 Text1:1");
+        "board hidden=planet/garden/simple you=garden level:1 frames:yes\ndo Text6:2=a_c Command6 "
+        "Text1:1");
+    EXPECT_EQ(game.board.Text6(2).Text, "a c");
+    EXPECT_EQ(game.board.HeldLetter, "") << "nothing is played after a fault";
     EXPECT_EQ(game.FirstFault(), "a draw that was not expected");
 }
 

@@ -31,6 +31,9 @@ TEST(StartOfGame, TakesItsSeedFromTheClock)
     HeadlessGame game("", HeadlessPlatform(6));
     PlayEvents(game, "Command1"); // with no level too
     EXPECT_EQ(game.platform.DrawRandom(), steady.DrawRandom());
+    PlayEvents(game, "Command1");
+    steady.SeedRandom(7);
+    EXPECT_EQ(game.platform.DrawRandom(), steady.DrawRandom()) << "a clock that goes on";
 }
 
 // Starts a game on a word list of planet, garden, so many times planet again, and simple. The first

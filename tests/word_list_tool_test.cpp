@@ -1,5 +1,6 @@
 // The check of a word list: its rules, and the search for the largest games.
 #include "lexicon/passes.h"
+#include "tools/word_list/fit_list.h"
 #include "tools/word_list/largest_game.h"
 #include "tools/word_list/list_rules.h"
 
@@ -83,13 +84,31 @@ TEST(WordListTool, FindsEveryLargeGame)
     }
 }
 
+// All but the one in capitals have the same letters. Of the two sets of candidates that games find,
+// one is without it.
+TEST(WordListTool, LeavesOutWhatMakesGamesTooLarge)
+{
+    const KnownWords all
+        = {{"abcdef"}, {"bcdefa"}, {"cdefab"}, {"defabc"}, {"efabcd"}, {"fabcde", 1}, {"GHIJKL"}};
+    for (const auto& [room, leave] : {std::pair(7, Words{}), {6, {"fabcde"}},
+             {5, {"fabcde", "GHIJKL"}}, {4, {"fabcde", "abcdef", "GHIJKL"}}}) {
+        KnownWords list = all;
+        EXPECT_EQ(WordsOf(LeaveWords(list, static_cast<std::size_t>(room))), leave) << room;
+        EXPECT_EQ(list.size() + leave.size(), all.size());
+    }
+}
+
 TEST(WordListTool, NamesWhatBreaksTheRules)
 {
     constexpr const char* strange = "holds a character that cannot be a letter of the game";
     const Words good = {"planet", "garden", "simple", "purple"};
     const std::pair<const char*, std::string> rows[]
-        = {{"planet", ""}, {"bücher", ""}, {"bu\u0308che", strange}, {"a*bcde", strange},
-            {"seven77", "has 7 letters and not six"}, {"", "is empty"}};
+        = {{"planet", ""}, {"bücher", ""}, {"bu\u0308che", strange}, {"a\u00A0bcde", strange},
+            {"a\u00A1bcde", ""}, {"a bcde", strange},
+            {"a\x7F"
+             "bcde",
+                strange},
+            {"a*bcde", strange}, {"seven77", "has 7 letters and not six"}, {"", "is empty"}};
     for (const auto& [record, fault] : rows) {
         Words records = good;
         records.emplace_back(record);
@@ -99,11 +118,19 @@ TEST(WordListTool, NamesWhatBreaksTheRules)
         EXPECT_EQ(FindFaults(records), faults);
     }
     EXPECT_EQ(FindFaults({"planet", "garden", "simple"}),
-        Words{"Its records, without the last, have fewer than three first letters."});
+        Words{"Its records, without the last, have fewer than three first letters: add words with "
+              "other ones, in front of the last."});
     Words many(32764, "planet");
     many.insert(many.end(), {"garden", "simple", "purple"});
     EXPECT_TRUE(FindFaults(many).empty());
     many.push_back("simple");
     EXPECT_EQ(FindFaults(many), Words{"It has 32768 records; the game counts to 32767."});
     EXPECT_EQ(FindFaults(Words(1000, "short")).size(), 12U); // ten, the rest, the first letters
+}
+
+// No game finds fewer than its own three words. How many the largest finds is in docs/word-list.md.
+TEST(WordList, SmallestGameFindsItsOwnWords)
+{
+    const auto own = [](const std::string& word) { return CanSpell("attaintanninpatina", word); };
+    EXPECT_EQ(std::ranges::count_if(ReadRecords(QUORVEL_WORD_LIST), own), 3);
 }

@@ -26,10 +26,18 @@ std::string FaintLetter(const LetterBox& box, const Board& board)
     return lifted ? board.HeldLetter : "";
 }
 
+bool HoldsWriting(const Part& part)
+{
+    return part.Row->Is == Kind::GuessBox || part.Row->Is == Kind::List
+        || (part.Shows != nullptr && std::holds_alternative<NumberBox Board::*>(*part.Shows));
+}
+
 // What a click does now. Meant: a lilac tile is raised while no letter is in the hand, though a
 // click does nothing then, since it is the next to be clicked.
 Edge EdgeOf(const Part& part, const Board& board)
 {
+    if (HoldsWriting(part))
+        return Edge::Sunken;
     if (part.Clicked == nullptr || (part.Row->Is == Kind::Button && *part.Row->Caption == '\0'))
         return Edge::Flat;
     if (!IsEnabled(part, board))
@@ -45,6 +53,12 @@ bool IsFaded(const Part& part, const Board& board)
 {
     const LetterBox* box = BoxOf(part, board);
     return !IsEnabled(part, board) && !(box == &board.SwapLetters(1) && RedLetterTurnsToo(board));
+}
+
+// A word that is being laid out is what the player looks at.
+bool IsClear(const Part& part, const Board& board)
+{
+    return part.Clicked == FindClick("Text1") && HoldsLetters(board.Text2);
 }
 
 bool HoldsMark(const Part& part, const std::vector<const Part*>& marked)
@@ -112,6 +126,7 @@ Look LookOf(const Part& part, const Board& board, const Marks& marks)
     look.OnView = IsOnView(part, board);
     look.Border = EdgeOf(part, board);
     look.Faded = IsFaded(part, board);
+    look.Clear = IsClear(part, board);
     if (part.Shows != nullptr)
         std::visit(ReadField{part, board, look}, *part.Shows);
     look.Marked = MarkOf(part, board, marks, look);

@@ -11,6 +11,7 @@ enum class Edge {
     Flat,      // never for a click
     Raised,    // for a click
     OutOfPlay, // for a click at another time
+    Sunken,    // holds what is written: a number, a guess, the words
 };
 
 // What the edge tells beside that.
@@ -33,6 +34,7 @@ struct Look {
     Edge Border = Edge::Flat;
     Mark Marked = Mark::None;
     bool Faded = false; // the colours are those of a control out of play
+    bool Clear = false; // but not that of its letter
     std::string Name;   // what a screen reader says: see spoken.h
     std::string Help;   // and then
 

@@ -183,6 +183,11 @@ std::string Session::LetterInHand() const
     return lilac ? BoxOf(*dragged_, game_.board)->Text : game_.board.HeldLetter;
 }
 
+const Part& Session::PlaceOfLetterInHand() const
+{
+    return dragged_ != nullptr ? *dragged_ : FindPart("Text1", game_.board.HeldIndex);
+}
+
 void Session::Wake()
 {
     if (alarms_.TakeDue(Alarm::Refusal)) {
@@ -247,6 +252,11 @@ Answer Session::Ask(const Message& message)
     messageIsOpen_ = false;
     announcer_.AfterMessage(message.Text);
     return answer;
+}
+
+void Session::MessageShows()
+{
+    openedAt_ = front_.Milliseconds();
 }
 
 bool Session::TakesAnswer() const

@@ -40,7 +40,9 @@ public:
     void EndDrag(const Part* to);
 
     // The letter that is in the hand or under way, or "": drawn beside the arrow of a mouse.
+    // It looks like the part that it came from.
     std::string LetterInHand() const;
+    const Part& PlaceOfLetterInHand() const;
 
     // False when the key is the toolkit's.
     bool Press(const KeyPress& key);
@@ -71,7 +73,9 @@ public:
     // The ring of the focus is for those who play by keys.
     bool ShowsFocus() const { return showsFocus_; }
 
-    // A message takes no answer before it can have been read.
+    // The message that is asked can be seen from now on. It takes no answer before it can have been
+    // read.
+    void MessageShows();
     bool TakesAnswer() const;
 
     // What the rules ask of their view.

@@ -8,11 +8,15 @@
 
 // What a desktop says of the window, in pixels.
 struct Desktop {
-    PixelSize Window;       // without its borders
-    PixelSize Borders;      // of both sides together
-    PixelSize Screen;       // the room on it
-    bool GivesRoom = false; // maximised, or in full screen
+    PixelSize Window;   // without its borders
+    PixelSize Borders;  // of both sides together
+    PixelSize Screen;   // the room on it
+    PixelPoint Place;   // of the outer corner, in that room
+    bool Fills = false; // maximised, or in full screen
     bool Minimised = false;
+    // It says neither where the window stands nor what borders it draws itself. It takes any size
+    // that it is asked for, so that one that it gives unasked is meant.
+    bool SaysSizeAlone = false;
 };
 
 // What is asked of the desktop.
@@ -31,9 +35,9 @@ public:
 
     const Scale& Present() const { return scale_; }
 
-    // At every change: maximised, in full screen, or where the desktop insists on a size, the board
-    // is as large as the room. Otherwise the window has its one outer size, in whole pixels, never
-    // smaller than its contents and never larger than the screen.
+    // At every change: in a room that the desktop gives, the board is as large as the room.
+    // Otherwise the window has its one outer size, in whole pixels, never smaller than its contents
+    // and never larger than the screen, and springs back to it after a drag.
     Wish Form_Resize(const Desktop& desktop);
     Wish AskAgain(const Desktop& desktop);
 
@@ -41,13 +45,20 @@ public:
     void ReadSize(const Desktop& desktop);
 
 private:
+    enum class Given { Nothing, PerhapsADrag, ADrag, ForGood };
+
     bool HasRoomOfItsOwn(const Desktop& desktop) const;
     void FillRoom(const Desktop& desktop);
     Wish HoldOneSize(const Desktop& desktop);
+    Wish TakeUnasked(const Desktop& desktop);
 
     Board& board_;
     Scale scale_;
-    bool asked_ = false;   // and may still get the size
-    int refusals_ = 0;     // of the one size, one after another, by a desktop that
-    PixelSize insisted_{}; // gives this one
+    PixelSize asked_ = DesignSize(); // last
+    bool waits_ = false;             // and may still get that size
+    int refusals_ = 0;               // of the one size, one after another, by a desktop that
+    PixelSize insisted_{};           // gives this one
+    Given given_ = Given::Nothing;   // by a desktop that gives sizes unasked:
+    PixelSize unasked_{};            // the last of them
+    PixelSize dragged_{};            // where the last drag ended
 };

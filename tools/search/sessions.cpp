@@ -16,6 +16,8 @@
 
 namespace {
 
+using Player = std::function<bool(const std::string& script)>;
+
 constexpr int eventsOfSession = 1000;
 
 const char* const smallLists[] = {
@@ -24,6 +26,7 @@ const char* const smallLists[] = {
     "list stream master tamers altars remast artsal", // words of the same letters
     "list gardens planet garden simple eaglet impels nested letter simple",
     "list _ planet garden simple ****** eaglet gender impels nested simple",
+    "list планет กขฃคฅฆ 𐐨𐐩𐐪𐐫𐐬𐐭 платен ฆฅคฃขก 𐐭𐐨𐐩𐐪𐐫𐐬 ланกขฃ _", // two, three and four bytes
 };
 
 // Draws of one event or one session. Each has its own, so that a change of one moves no other.
@@ -130,34 +133,15 @@ Session DrawSession(std::uint32_t seed, int number)
     return session;
 }
 
-// Plays in a process of its own.
-bool Fails(const std::filesystem::path& wordList, const Session& session)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        alarm(20); // nothing keeps the player waiting
-        const auto fails = [&]() noexcept {
-            HeadlessGame game(wordList);
-            RunScript(game, session.Text());
-            return !game.FirstFault().empty();
-        };
-        _exit(fails() ? 1 : 0);
-    }
-    int status = 0;
-    if (child < 0 || waitpid(child, &status, 0) != child)
-        throw std::system_error(errno, std::generic_category(), "a session could not be played");
-    return status != 0;
-}
-
 // Leaves out whatever the fault does not need: halves first, in the end single events.
-Session Shrink(const std::filesystem::path& wordList, Session session)
+Session Shrink(Session session, const Player& fails)
 {
     for (auto size = std::ssize(session.events) / 2; size > 0; size /= 2) {
         for (std::ptrdiff_t at = 0; at < std::ssize(session.events);) {
             Session fewer = session;
             const auto from = fewer.events.begin() + at;
             fewer.events.erase(from, from + std::min(size, fewer.events.end() - from));
-            if (!fewer.events.empty() && Fails(wordList, fewer))
+            if (!fewer.events.empty() && fails(fewer.Text()))
                 session = fewer;
             else
                 at += size;
@@ -168,12 +152,30 @@ Session Shrink(const std::filesystem::path& wordList, Session session)
 
 } // namespace
 
-std::string SearchSessions(const std::filesystem::path& wordList, int sessions, std::uint32_t seed)
+bool Fails(const std::filesystem::path& wordList, const std::string& script)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(20); // nothing keeps the player waiting
+        const auto fails = [&]() noexcept {
+            HeadlessGame game(wordList);
+            RunScript(game, script);
+            return !game.FirstFault().empty();
+        };
+        _exit(fails() ? 1 : 0);
+    }
+    int status = 0;
+    if (child < 0 || waitpid(child, &status, 0) != child)
+        throw std::system_error(errno, std::generic_category(), "a session could not be played");
+    return status != 0;
+}
+
+std::string SearchSessions(int sessions, std::uint32_t seed, const Player& fails)
 {
     for (int number = 1; number <= sessions; ++number) {
         const Session session = DrawSession(seed, number);
-        if (Fails(wordList, session))
-            return Shrink(wordList, session).Text();
+        if (fails(session.Text()))
+            return Shrink(session, fails).Text();
     }
     return "";
 }

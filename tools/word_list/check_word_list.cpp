@@ -1,9 +1,10 @@
 // Checks a word list: whether it keeps the rules, and how many words a game can find in it.
 //
 //   check_word_list FILE          tells it
-//   check_word_list --fit FILE    prints the list without the words that have to leave it, and the
-//                                 rest on the standard error; a number in front of a word says how
-//                                 little it is known, as in "50 planet"
+//   check_word_list --fit FILE    prints the list, in its order, without the words that have to
+//   leave
+//                                 it, and the rest on the standard error; a number in front of a
+//                                 word says how little it is known, as in "50 planet"
 //
 // Status 0: the game can play with the list. 1: it cannot. 2: the call makes no sense.
 #include "game/board.h"
@@ -50,22 +51,34 @@ KnownWord ParseRecord(const std::string& record)
     const std::size_t digits = record.find_first_not_of("0123456789");
     if (digits == 0 || digits > 4 || record[digits] != ' ')
         return {.word = record}; // which is no word, if a number stands in front
-    return {.word = record.substr(digits + 1), .size = std::stoi(record)};
+    return {.word = record.substr(digits + 1), .rarity = std::stoi(record)};
 }
 
-// The best known words go to the front.
+constexpr std::size_t mostExamples = 10;
+
+// What has left the list, summed up.
+std::string TellLeft(const KnownWords& left)
+{
+    if (left.empty())
+        return "No word has to leave: the largest game fits.";
+    std::string line
+        = left.size() == 1 ? "1 word leaves" : std::to_string(left.size()) + " words leave";
+    line += ", so that the largest game fits";
+    line += left.size() > mostExamples ? ", such as" : ":";
+    // Evenly from all of them, since those that leave first are alike.
+    for (std::size_t k = 0; k < std::min(left.size(), mostExamples); ++k)
+        line += (k == 0 ? " " : ", ")
+            + left[k * left.size() / std::min(left.size(), mostExamples)].word;
+    return line + '.';
+}
+
 Words Fit(const Words& records)
 {
     KnownWords list;
     std::ranges::transform(records, std::back_inserter(list), ParseRecord);
-    std::ranges::stable_sort(list, {}, &KnownWord::size);
     if (!FindFaults(WordsOf(list)).empty())
         return WordsOf(list);
-    const KnownWords left = LeaveWords(list, mostCandidates);
-    std::string line = std::to_string(left.size()) + " words leave, so that the largest game fits:";
-    for (const KnownWord& word : left)
-        line += ' ' + word.word;
-    Print(stderr, line);
+    Print(stderr, TellLeft(LeaveWords(list, mostCandidates)));
     for (const KnownWord& word : list)
         Print(stdout, word.word);
     return WordsOf(list);

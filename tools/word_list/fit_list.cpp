@@ -62,7 +62,7 @@ private:
     std::size_t NextToLeave() const
     {
         const auto rank = [this](std::size_t word) {
-            return std::tuple(tooLarge_[word] <= 0, -list_[word].size, -tooLarge_[word],
+            return std::tuple(tooLarge_[word] <= 0, -list_[word].rarity, -tooLarge_[word],
                 std::string_view(list_[word].word));
         };
         std::size_t next = 0;

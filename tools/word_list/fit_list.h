@@ -7,7 +7,7 @@
 
 struct KnownWord {
     std::string word;
-    int size = 0; // the larger, the fewer people know it
+    int rarity = 0; // the larger, the fewer people know it
 };
 
 using KnownWords = std::vector<KnownWord>;

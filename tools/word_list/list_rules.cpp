@@ -76,6 +76,8 @@ std::vector<std::string> FindFaults(const std::vector<std::string>& records)
     if (broken > mostNamed)
         faults.push_back("So it is with " + std::to_string(broken - mostNamed) + " more records.");
     if (!HasEnoughFirstLetters(records))
-        faults.emplace_back("Its records, without the last, have fewer than three first letters.");
+        faults.emplace_back(
+            "Its records, without the last, have fewer than three first letters: add "
+            "words with other ones, in front of the last.");
     return faults;
 }

@@ -1,24 +1,23 @@
 #include "ui/qt/board_button.h"
 
-#include "ui/qt/box_look.h"
-
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include <utility>
+
+void BoardButton::SetLook(const BoxLook& look)
+{
+    if (std::exchange(look_, look) != look)
+        update();
+}
+
 void BoardButton::paintEvent(QPaintEvent* /*event*/)
 {
-    const bool caption = !text().isEmpty();
-    DrawBox(*this,
-        {.ground = QPalette::Button,
-            .ink = QPalette::ButtonText,
-            .text = text(),
-            .edge = !caption  ? Edge::Flat
-                : isEnabled() ? Edge::Raised
-                              : Edge::OutOfPlay,
-            .faded = !isEnabled(),
-            .pressed = isDown(),
-            .heavy = heavy_});
+    BoxLook look = look_;
+    look.pressed = isDown();
+    look.heavy = heavy_ || isDefault(); // of a message
+    DrawBox(*this, look, QPalette::Button, QPalette::ButtonText);
 }
 
 // The style's own mark of the focus is left out: here it is the ring that tiles have.
@@ -29,6 +28,6 @@ void BoardCheck::paintEvent(QPaintEvent* /*event*/)
     initStyleOption(&option);
     option.state &= ~QStyle::State_HasFocus;
     style()->drawControl(QStyle::CE_CheckBox, &option, &painter, this);
-    if (hasFocus())
+    if (HasRing(*this))
         DrawFocusRing(painter, rect(), 1);
 }

@@ -1,6 +1,6 @@
 #include "ui/qt/board_style.h"
 
-#include <QWidget>
+#include <QAbstractButton>
 
 BoardStyle::BoardStyle()
     : QProxyStyle(QStringLiteral("fusion"))
@@ -10,14 +10,13 @@ BoardStyle::BoardStyle()
 int BoardStyle::pixelMetric(
     PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
-    constexpr double shareOfHeight = 0.82; // 14 pixels of the 17 that a level has at full size
     switch (metric) {
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        if (widget != nullptr)
-            return qRound(shareOfHeight * widget->height());
+        if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+            return button->iconSize().width(); // which none has; it is set to that of the mark
         [[fallthrough]];
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);

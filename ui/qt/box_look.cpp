@@ -1,11 +1,15 @@
 #include "ui/qt/box_look.h"
 
 #include <QPainter>
+#include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
 
 namespace {
+
+constexpr const char* ringsShow = "ringsShow";
+constexpr const char* hoverShows = "hoverShows";
 
 // Filled bars stay crisp at every scale of the screen, where a pen would blur. They are measured in
 // whole dots of it: at a scale of 1.5 a bar of one pixel would be one dot here and two there.
@@ -21,15 +25,20 @@ public:
         end_ = {qRound(dots.right()), qRound(dots.bottom())};
     }
 
+    // Each goes dot by dot up to the other, so that they meet in a mitre.
     void TopAndLeft(const QColor& colour)
     {
-        Fill(first_.x(), first_.y(), end_.x(), first_.y() + line_, colour);
-        Fill(first_.x(), first_.y(), first_.x() + line_, end_.y(), colour);
+        for (int dot = 0; dot < line_; ++dot) {
+            Fill(first_.x() + dot, first_.y() + dot, end_.x() - dot, first_.y() + dot + 1, colour);
+            Fill(first_.x() + dot, first_.y() + dot, first_.x() + dot + 1, end_.y() - dot, colour);
+        }
     }
     void BottomAndRight(const QColor& colour)
     {
-        Fill(first_.x(), end_.y() - line_, end_.x(), end_.y(), colour);
-        Fill(end_.x() - line_, first_.y(), end_.x(), end_.y(), colour);
+        for (int dot = 0; dot < line_; ++dot) {
+            Fill(first_.x() + dot, end_.y() - dot - 1, end_.x() - dot, end_.y() - dot, colour);
+            Fill(end_.x() - dot - 1, first_.y() + dot, end_.x() - dot, end_.y() - dot, colour);
+        }
     }
 
     // Gaps in the line, on all sides alike.
@@ -43,6 +52,20 @@ public:
         for (int y = first_.y() + step; y < end_.y() - line_; y += 2 * step) {
             Fill(first_.x(), y, first_.x() + line_, std::min(y + step, end_.y() - line_), colour);
             Fill(end_.x() - line_, y, end_.x(), std::min(y + step, end_.y() - line_), colour);
+        }
+    }
+
+    // The corners of the line alone.
+    void Corners(const QColor& colour)
+    {
+        const int length = std::min(end_.x() - first_.x(), end_.y() - first_.y()) / 3;
+        for (const int left : {first_.x(), end_.x() - length}) {
+            Fill(left, first_.y(), left + length, first_.y() + line_, colour);
+            Fill(left, end_.y() - line_, left + length, end_.y(), colour);
+        }
+        for (const int top : {first_.y(), end_.y() - length}) {
+            Fill(first_.x(), top, first_.x() + line_, top + length, colour);
+            Fill(end_.x() - line_, top, end_.x(), top + length, colour);
         }
     }
 
@@ -65,12 +88,79 @@ int LineOf(const QWidget& widget)
     return std::max(1, widget.contentsMargins().left());
 }
 
+// What stands up from the board has a lip that many lines wide.
+int LipOf(const QWidget& widget)
+{
+    const int line = LineOf(widget);
+    return (widget.height() >= 28 * line ? 3 : 2) * line;
+}
+
+bool IsPale(const QColor& ground)
+{
+    return ground.value() > 127;
+}
+
 QColor LineOn(const QColor& ground)
 {
-    return Blend(ground.value() > 127 ? Qt::black : Qt::white, ground, 0.65);
+    return Blend(IsPale(ground) ? Qt::black : Qt::white, ground, 0.65);
+}
+
+// Of what stands up: a tone between its line and its ground.
+QColor LipOn(const QColor& ground)
+{
+    return Blend(IsPale(ground) ? Qt::black : Qt::white, ground, IsPale(ground) ? 0.42 : 0.3);
+}
+
+// Of the rim around what lies lower, at its upper left.
+QColor ShadowOn(const QColor& ground)
+{
+    return Blend(Qt::black, ground, IsPale(ground) ? 0.42 : 0.8);
+}
+
+QRect Inside(const QRect& box, int by)
+{
+    return box.adjusted(by, by, -by, -by);
+}
+
+bool IsHovered(const QWidget& widget, const BoxLook& look)
+{
+    return look.edge == Edge::Raised && widget.underMouse() && widget.isEnabled()
+        && widget.window()->property(hoverShows).toBool();
+}
+
+// What lies between the line around the box and its ground.
+void DrawRelief(QPainter& painter, const QWidget& widget, const QColor& ground, const BoxLook& look)
+{
+    const int line = LineOf(widget);
+    const QRect inner = Inside(widget.rect(), line);
+    if (look.hollow || look.pressed)
+        Bars(painter, inner, LipOf(widget)).TopAndLeft(ShadowOn(ground));
+    else if (look.edge == Edge::Raised)
+        Bars(painter, inner, LipOf(widget)).BottomAndRight(LipOn(ground));
+    else if (look.edge == Edge::Sunken)
+        Bars(painter, inner, 2 * line).TopAndLeft(Blend(ShadowOn(ground), ground, 0.6));
+}
+
+// A raised letter stands in the middle of what the lip leaves, and goes down with its tile.
+QRect RoomForText(const QWidget& widget, const BoxLook& look)
+{
+    const int lip = look.edge == Edge::Raised ? LipOf(widget) : 0;
+    return look.hollow || look.pressed ? widget.rect().adjusted(lip, lip, 0, 0)
+                                       : widget.rect().adjusted(0, 0, -lip, -lip);
 }
 
 } // namespace
+
+BoxLook BoxLookOf(const Look& look)
+{
+    const bool hollow = look.Text.empty() && !look.Faint.empty();
+    return {.text = QString::fromStdString(hollow ? look.Faint : look.Text),
+        .edge = look.Border,
+        .mark = look.Marked,
+        .faded = look.Faded,
+        .clear = look.Clear,
+        .hollow = hollow};
+}
 
 QColor Blend(const QColor& colour, const QColor& rest, double share)
 {
@@ -79,50 +169,122 @@ QColor Blend(const QColor& colour, const QColor& rest, double share)
         mix(colour.blue(), rest.blue()));
 }
 
-void DrawBox(QWidget& widget, const BoxLook& look)
+void DrawBox(QWidget& widget, const BoxLook& look, QPalette::ColorRole groundRole,
+    QPalette::ColorRole inkRole)
 {
     const QPalette& palette = widget.palette();
-    const QColor own = palette.color(QPalette::Active, look.ground);
-    QColor ink = palette.color(QPalette::Active, look.ink);
-    QColor ground = own;
+    QColor ground = palette.color(QPalette::Active, groundRole);
+    QColor ink = palette.color(QPalette::Active, inkRole);
     if (look.faded) {
         // Still to be read: a pale ground stays one on a dark desktop.
         const QColor window = palette.color(QPalette::Active, QPalette::Window);
-        ground = Blend(ground, ground.value() > 127 ? QColor(225, 225, 225) : window, 0.45);
-        ink = Blend(ink, ground, 0.6);
-    } else if (look.pressed) {
-        ground = ground.darker(115);
+        ground = Blend(ground, IsPale(ground) ? QColor(225, 225, 225) : window, 0.45);
+        if (!look.clear)
+            ink = Blend(ink, ground, 0.6);
     }
+    if (look.hollow)
+        ink = Blend(ink, ground, 0.5);
 
     QPainter painter(&widget);
     painter.fillRect(widget.rect(), ground);
-    DrawEdge(painter, widget, look.faded ? ground : own, look.edge);
-    if (look.heavy && look.edge == Edge::Raised)
-        DrawOutline(painter, widget.rect(), 2 * LineOf(widget), LineOn(ground));
-    painter.setPen(look.faint ? Blend(ink, ground, 0.35) : ink);
-    painter.drawText(widget.rect(), Qt::AlignCenter | Qt::TextDontClip, look.text);
-    if (widget.hasFocus())
-        DrawFocusRing(painter, widget.rect(), LineOf(widget));
+    painter.setPen(ink);
+    painter.drawText(RoomForText(widget, look), Qt::AlignCenter | Qt::TextDontClip, look.text);
+    DrawEdge(painter, widget, ground, look);
 }
 
-void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground, Edge edge)
+void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground, const BoxLook& look)
 {
     const int line = LineOf(widget);
     const QRect box = widget.rect();
-    DrawOutline(painter, box, line, LineOn(ground));
-    if (edge == Edge::OutOfPlay)
+    DrawRelief(painter, widget, ground, look);
+    // What is sunken has a quieter line where lines are light.
+    const bool quiet = look.edge == Edge::Sunken && !IsPale(ground);
+    DrawOutline(painter, box, line, quiet ? Blend(Qt::white, ground, 0.4) : LineOn(ground));
+    if (look.edge == Edge::OutOfPlay)
         Bars(painter, box, line).Perforate(ground);
-    if (edge == Edge::Raised) {
-        Bars inner(painter, box.adjusted(line, line, -line, -line), line);
-        inner.BottomAndRight(Blend(Qt::black, ground, 0.3));
-        inner.TopAndLeft(Blend(Qt::white, ground, ground.value() > 127 ? 0.75 : 0.2));
+    if (look.heavy && look.edge == Edge::Raised)
+        DrawOutline(painter, box, 2 * line, LineOn(ground));
+    if (IsHovered(widget, look))
+        DrawOutline(painter, box, 2 * line, IsPale(ground) ? Qt::black : Qt::white);
+    const bool ring = HasRing(widget);
+    DrawMark(painter, ring ? Inside(box, 3 * line) : box, line, ground, look.mark);
+    if (ring)
+        DrawFocusRing(painter, box, line);
+}
+
+void DrawMark(QPainter& painter, const QRect& box, int line, const QColor& ground, Mark mark)
+{
+    const bool pale = IsPale(ground);
+    const QColor blue = pale ? QColor(0, 72, 186) : QColor(120, 180, 255);
+    const QColor red = pale ? QColor(200, 0, 0) : QColor(255, 110, 110);
+    const QColor orange = pale ? QColor(176, 80, 0) : QColor(255, 160, 64);
+    switch (mark) {
+    case Mark::None:
+        break;
+    case Mark::Known:
+        DrawOutline(painter, box, 2 * line, orange);
+        break;
+    case Mark::Foreign:
+        DrawOutline(painter, box, 2 * line, red);
+        Bars(painter, box, 2 * line).Perforate(ground);
+        break;
+    case Mark::Next:
+        DrawOutline(painter, box, 3 * line, blue);
+        break;
+    case Mark::Refused:
+        DrawOutline(painter, box, 4 * line, red);
+        break;
+    case Mark::Changed:
+        Bars(painter, box, 3 * line).Corners(blue);
+        break;
+    }
+}
+
+void DrawTrays(QPainter& painter, const std::vector<QRect>& rows, int line, const QColor& ground)
+{
+    const int rim = 4 * line;
+    std::vector<QRect> trays;
+    for (const QRect& row : rows) {
+        const QRect tray = row.adjusted(-rim, -rim, rim, rim);
+        if (trays.empty() || !trays.back().intersects(tray))
+            trays.push_back(tray);
+        trays.back() |= tray;
+    }
+    const bool pale = IsPale(ground);
+    for (const QRect& tray : trays) {
+        painter.fillRect(tray, Blend(Qt::black, ground, pale ? 0.16 : 0.4));
+        Bars bars(painter, tray, line);
+        bars.BottomAndRight(Blend(Qt::white, ground, pale ? 0.8 : 0.2));
+        bars.TopAndLeft(Blend(Qt::black, ground, pale ? 0.4 : 0.8));
     }
 }
 
 void DrawFocusRing(QPainter& painter, const QRect& box, int line)
 {
     DrawOutline(painter, box, 2 * line, Qt::black);
-    DrawOutline(painter, box.adjusted(2 * line, 2 * line, -2 * line, -2 * line), line, Qt::white);
+    DrawOutline(painter, Inside(box, 2 * line), line, Qt::white);
+}
+
+bool HasRing(const QWidget& widget)
+{
+    return widget.hasFocus() && widget.window()->property(ringsShow).toBool();
+}
+
+void LetRingsShow(QWidget& window, bool show)
+{
+    if (window.property(ringsShow).toBool() == show)
+        return;
+    window.setProperty(ringsShow, show);
+    if (QWidget* focused = window.focusWidget())
+        focused->update();
+}
+
+void LetHoverShow(QWidget& window, bool show)
+{
+    if (window.property(hoverShows).toBool() == show)
+        return;
+    window.setProperty(hoverShows, show);
+    window.update();
 }
 
 void DrawOutline(QPainter& painter, const QRect& box, int line, const QColor& colour)

@@ -1,5 +1,5 @@
-// How a box of the board is drawn: in exactly its colours, with lines that join its neighbours' and
-// an edge that tells whether a click does anything.
+// How a box of the board is drawn: in exactly its colours, with lines that join its neighbours', an
+// edge that tells whether a click does anything, and a mark that tells what is to be seen there.
 #pragma once
 
 #include "ui/look.h"
@@ -7,31 +7,50 @@
 #include <QPalette>
 #include <QString>
 
+#include <vector>
+
 class QPainter;
 class QWidget;
 
 struct BoxLook {
-    QPalette::ColorRole ground = QPalette::Base;
-    QPalette::ColorRole ink = QPalette::Text;
     QString text;
     Edge edge = Edge::Flat;
-    bool faded = false; // out of play, and its colours with it
-    bool faint = false; // the text is not quite there
+    Mark mark = Mark::None;
+    bool faded = false;  // out of play, and its colours with it
+    bool clear = false;  // but not that of its letter
+    bool hollow = false; // the letter has been taken out
     bool pressed = false;
     bool heavy = false; // an edge twice as wide
+
+    bool operator==(const BoxLook&) const = default;
 };
 
-// Draws the widget, which has to be in its paint event, with its font and its palette, and a ring
-// that shows on any colour where it has the focus. The edge is as wide as its contents margins.
-void DrawBox(QWidget& widget, const BoxLook& look);
+BoxLook BoxLookOf(const Look& look);
 
-// A line around the widget on this ground; for a widget that paints the rest itself, in its paint
-// event.
-void DrawEdge(
-    QPainter& painter, const QWidget& widget, const QColor& ground, Edge edge = Edge::Flat);
+// Draws the widget, which has to be in its paint event, in these roles of its palette and with its
+// font, and a ring that shows on any colour where the focus is to be seen. The edge is as wide as
+// its contents margins.
+void DrawBox(QWidget& widget, const BoxLook& look, QPalette::ColorRole ground = QPalette::Base,
+    QPalette::ColorRole ink = QPalette::Text);
+
+// Edge, mark and ring alone, for a widget that paints the rest itself, in its paint event.
+void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground, const BoxLook& look);
+
+// At the edge of the box.
+void DrawMark(QPainter& painter, const QRect& box, int line, const QColor& ground, Mark mark);
+
+// The hollows that these rows of boxes lie in; rows that are close together lie in one.
+void DrawTrays(QPainter& painter, const std::vector<QRect>& rows, int line, const QColor& ground);
 
 // The ring of the focus, just inside the box: two colours, one of which shows on any other.
 void DrawFocusRing(QPainter& painter, const QRect& box, int line);
+
+// Whether the widget has the focus, and its window lets that be seen.
+bool HasRing(const QWidget& widget);
+void LetRingsShow(QWidget& window, bool show);
+
+// Whether the window lets a pointer that rests on a control be seen: a mouse, and no finger.
+void LetHoverShow(QWidget& window, bool show);
 
 // A line just inside the box, as many pixels wide, in whole dots of the screen.
 void DrawOutline(QPainter& painter, const QRect& box, int line, const QColor& colour);

@@ -72,7 +72,6 @@ Controls BuildControls(QWidget& window)
         widget->setAttribute(Qt::WA_InputMethodEnabled); // for letters that keys compose
         controls.push_back({&part, widget});
         GiveColours(controls.back());
-        widget->setToolTip(QString::fromUtf8(part.Row->ToolTip));
     }
     return controls;
 }

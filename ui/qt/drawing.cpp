@@ -1,6 +1,7 @@
 #include "ui/qt/drawing.h"
 
 #include "ui/places.h"
+#include "ui/qt/board_button.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/guess_box.h"
 #include "ui/qt/letter_tile.h"
@@ -13,6 +14,7 @@
 #include <QAbstractButton>
 
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -47,43 +49,73 @@ void ShowLook(const BuiltControl& control, const Look& look)
     const QString text = QString::fromStdString(look.Text);
     switch (control.Is->Row->Is) {
     case Kind::LetterTile:
-        As<LetterTile>(control).SetLetter(text, QString::fromStdString(look.Faint));
-        As<LetterTile>(control).SetEdge(look.Border, look.Faded);
+        As<LetterTile>(control).SetLook(BoxLookOf(look));
         break;
     case Kind::ShownBox:
-        As<ShownBox>(control).setText(text);
+        As<ShownBox>(control).SetLook(BoxLookOf(look));
         break;
     case Kind::GuessBox:
-        As<GuessBox>(control).Write(text);
+        As<GuessBox>(control).SetLook(BoxLookOf(look));
         break;
     case Kind::List:
         As<UsedWordsList>(control).SetWords(text.isEmpty() ? QStringList() : text.split(u'\n'));
+        As<UsedWordsList>(control).SetMark(look.Marked);
         break;
     case Kind::Option:
     case Kind::Check:
         Choose(As<QAbstractButton>(control), look.Chosen);
         break;
-    case Kind::Frame:
     case Kind::Button:
+        As<BoardButton>(control).SetLook(BoxLookOf(look));
+        break;
+    case Kind::Frame:
     case Kind::Label:
         break;
     }
     GiveName(*control.Widget, QString::fromStdString(look.Name));
-    // A blank keeps a reader from saying the tool tip instead.
-    const QString help = QString::fromStdString(look.Help);
-    const bool tip = !control.Widget->toolTip().isEmpty();
-    control.Widget->setAccessibleDescription(help.isEmpty() && tip ? QStringLiteral(" ") : help);
+    control.Widget->setAccessibleDescription(QString::fromStdString(look.Help));
 }
 
-void SetLine(const BuiltControl& control, int line)
+// The mark of an option or a check box is of one size, however the places of its kind are rounded.
+void SetMark(QAbstractButton& button, const Control& row, const Scale& scale)
+{
+    constexpr double shareOfHeight = 0.82; // 14 pixels of the 17 that a level has at full size
+    const int size = qRound(shareOfHeight * row.At.Height * scale.PixelsPerTwip);
+    button.setIconSize(QSize(size, size));
+}
+
+void Rescale(const BuiltControl& control, const Scale& scale)
 {
     const Kind kind = control.Is->Row->Is;
+    const int line = LineWidth(scale);
     if (kind == Kind::Frame)
         As<TitledFrame>(control).SetLine(line);
     else if (kind == Kind::List)
         As<UsedWordsList>(control).setLineWidth(line);
     else if (HasDrawnEdge(kind))
         control.Widget->setContentsMargins(line, line, line, line);
+    else if (kind == Kind::Option || kind == Kind::Check)
+        SetMark(As<QAbstractButton>(control), *control.Is->Row, scale);
+}
+
+bool IsRowOfLetters(const Part& part)
+{
+    return part.Row->Is == Kind::LetterTile || (part.Row->Is == Kind::ShownBox && part.Row->Boxes);
+}
+
+// The boxes of the frame that stand side by side, as one rectangle each.
+std::vector<QRect> RowsIn(const Part& frame, const Controls& controls)
+{
+    std::vector<QRect> rows;
+    for (const BuiltControl& control : controls) {
+        if (control.Is->Frame != &frame || !IsRowOfLetters(*control.Is))
+            continue;
+        const QRect box = control.Widget->geometry();
+        if (rows.empty() || rows.back().top() != box.top())
+            rows.push_back(box);
+        rows.back() |= box;
+    }
+    return rows;
 }
 
 } // namespace
@@ -98,13 +130,17 @@ void ShowControls(Controls& controls, const Session& session, const Board& board
         const PixelRect place = PlaceOf(part, board, scale);
         widget.setGeometry(place.Left, place.Top, place.Width, place.Height);
         if (rescaled) {
-            SetLine(control, LineWidth(scale));
+            Rescale(control, scale);
             control.HasFont = false;
         }
         if (IsEnabled(part, board) && !widget.isEnabledTo(widget.parentWidget()))
             widget.setEnabled(true);
         if (IsShown(part, board) && widget.isHidden())
             widget.show();
+    }
+    for (const BuiltControl& control : controls) {
+        if (rescaled && control.Is->Row->Is == Kind::Frame)
+            As<TitledFrame>(control).SetRows(RowsIn(*control.Is, controls));
     }
     GiveFonts(controls, scale.PixelsPerTwip);
 }

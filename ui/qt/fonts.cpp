@@ -105,16 +105,16 @@ int FittingSize(
 }
 
 // Controls of one named font keep together: where a caption of one of them needs smaller letters,
-// those of the others are at most so many pixels larger.
+// those of the others are at most so many pixels larger. The options are all alike.
 constexpr int mostApart = 1;
 
-struct SameFont {
-    bool operator()(const Lettering& one, const Lettering& other) const
-    {
-        return std::tie(one.Name, one.Points, one.Bold)
-            < std::tie(other.Name, other.Points, other.Bold);
-    }
-};
+using Group = std::tuple<Face, double, bool, Kind>;
+
+Group GroupOf(const Control& row)
+{
+    const bool named = row.Font.Name != Face::Plain;
+    return {row.Font.Name, row.Font.Points, row.Font.Bold, named ? Kind::Frame : row.Is};
+}
 
 } // namespace
 
@@ -129,22 +129,21 @@ void GiveFonts(Controls& controls, double pixelsPerTwip)
         return;
     const QStringList installed = QFontDatabase::families(); // made anew at every question
     std::map<Face, QString> families;
-    std::map<Lettering, int, SameFont> smallest;
+    std::map<Group, int> smallest;
     std::vector<int> sizes;
     for (const BuiltControl* control : waiting) {
         const Control& row = *control->Is->Row;
         const auto family = families.try_emplace(row.Font.Name, FamilyOf(row.Font.Name, installed));
         sizes.push_back(FittingSize(row, *control->Widget, family.first->second, pixelsPerTwip));
-        int& size = smallest.try_emplace(row.Font, sizes.back()).first->second;
+        int& size = smallest.try_emplace(GroupOf(row), sizes.back()).first->second;
         size = std::min(size, sizes.back());
     }
     for (std::size_t place = 0; place < waiting.size(); ++place) {
         BuiltControl& control = *waiting[place];
-        const Lettering& font = control.Is->Row->Font;
-        const bool named = font.Name != Face::Plain;
-        const int pixels
-            = named ? std::min(sizes[place], smallest[font] + mostApart) : sizes[place];
-        control.Widget->setFont(FontOf(*control.Is->Row, families[font.Name], pixels));
+        const Control& row = *control.Is->Row;
+        const int apart = row.Font.Name == Face::Plain ? 0 : mostApart;
+        const int pixels = std::min(sizes[place], smallest[GroupOf(row)] + apart);
+        control.Widget->setFont(FontOf(row, families[row.Font.Name], pixels));
         control.HasFont = true;
     }
 }

@@ -1,11 +1,10 @@
 #include "ui/qt/guess_box.h"
 
-#include "ui/qt/box_look.h"
-
 #include <QKeyEvent>
 #include <QPainter>
 
 #include <limits>
+#include <utility>
 
 GuessBox::GuessBox(QWidget* parent)
     : QLineEdit(parent)
@@ -19,15 +18,15 @@ void GuessBox::paintEvent(QPaintEvent* event)
 {
     QLineEdit::paintEvent(event);
     QPainter painter(this);
-    DrawEdge(painter, *this, palette().color(QPalette::Base));
-    if (hasFocus())
-        DrawFocusRing(painter, rect(), contentsMargins().left());
+    DrawEdge(painter, *this, palette().color(QPalette::Base), look_);
 }
 
-void GuessBox::Write(const QString& letters)
+void GuessBox::SetLook(const BoxLook& look)
 {
-    if (text() != letters)
-        setText(letters);
+    if (text() != look.text)
+        setText(look.text);
+    if (std::exchange(look_, look) != look)
+        update();
 }
 
 void GuessBox::keyPressEvent(QKeyEvent* event)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/guess_rows.h"
+#include "ui/qt/box_look.h"
 
 #include <QLineEdit>
 
@@ -9,8 +10,8 @@ class GuessBox : public QLineEdit {
 public:
     explicit GuessBox(QWidget* parent);
 
-    // Sets the text. The same one again leaves cursor and selection as they are.
-    void Write(const QString& letters);
+    // The same text again leaves cursor and selection as they are.
+    void SetLook(const BoxLook& look);
 
     // What the edit under way does.
     Edit Kind() const { return edit_; }
@@ -21,5 +22,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    BoxLook look_;
     Edit edit_ = Edit::Typed;
 };

@@ -1,6 +1,5 @@
 #include "ui/qt/letter_tile.h"
 
-#include "ui/qt/box_look.h"
 #include "ui/qt/silence.h"
 
 #include <utility>
@@ -13,32 +12,22 @@ LetterTile::LetterTile(QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void LetterTile::SetLetter(const QString& letter, const QString& faint)
+void LetterTile::SetLook(const BoxLook& look)
 {
+    const QString letter = look.hollow ? QString() : look.text;
     if (text() != letter) {
         const Silence silence; // the toolkit takes it for a new name
         setText(letter);
     }
-    if (std::exchange(faint_, faint) != faint)
-        update();
-}
-
-void LetterTile::SetEdge(Edge edge, bool faded)
-{
-    const bool faintness = std::exchange(faded_, faded) != faded;
-    if (std::exchange(edge_, edge) != edge || faintness)
+    if (std::exchange(look_, look) != look)
         update();
 }
 
 void LetterTile::paintEvent(QPaintEvent* /*event*/)
 {
-    const bool faint = text().isEmpty();
-    DrawBox(*this,
-        {.text = faint ? faint_ : text(),
-            .edge = edge_,
-            .faded = faded_,
-            .faint = faint,
-            .pressed = isDown()});
+    BoxLook look = look_;
+    look.pressed = isDown();
+    DrawBox(*this, look);
 }
 
 ShownBox::ShownBox(QWidget* parent)
@@ -50,7 +39,14 @@ ShownBox::ShownBox(QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void ShownBox::SetLook(const BoxLook& look)
+{
+    setText(look.text);
+    if (std::exchange(look_, look) != look)
+        update();
+}
+
 void ShownBox::paintEvent(QPaintEvent* /*event*/)
 {
-    DrawBox(*this, {.text = text()});
+    DrawBox(*this, look_);
 }

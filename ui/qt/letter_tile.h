@@ -2,7 +2,7 @@
 // shows.
 #pragma once
 
-#include "ui/look.h"
+#include "ui/qt/box_look.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -12,25 +12,24 @@ class LetterTile : public QPushButton {
 public:
     explicit LetterTile(QWidget* parent);
 
-    // The letter in the box; and where the box is empty, a letter that is shown faintly in it.
-    void SetLetter(const QString& letter, const QString& faint);
-
-    // What a click does now, and whether the colours are those of a box out of play.
-    void SetEdge(Edge edge, bool faded);
+    void SetLook(const BoxLook& look);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QString faint_;
-    bool faded_ = false;
-    Edge edge_ = Edge::Flat;
+    BoxLook look_;
 };
 
 class ShownBox : public QLabel {
 public:
     explicit ShownBox(QWidget* parent);
 
+    void SetLook(const BoxLook& look);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    BoxLook look_;
 };

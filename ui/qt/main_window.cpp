@@ -3,6 +3,7 @@
 #include "game/board.h"
 #include "game/game.h"
 #include "ui/message.h"
+#include "ui/qt/box_look.h"
 #include "ui/qt/builder.h"
 #include "ui/qt/drawing.h"
 #include "ui/qt/guess_box.h"
@@ -37,6 +38,7 @@ MainWindow::MainWindow(Game& game)
     , size_(game.board)
     , session_(game, *this)
     , events_(*this, controls_, session_)
+    , pointer_(*this, controls_, session_)
 {
     setWindowIcon(QIcon(u":/quorvel2.png"_s));
     resize(DesignSize().Width, DesignSize().Height);
@@ -48,6 +50,7 @@ MainWindow::MainWindow(Game& game)
     for (const BuiltControl& control : controls_)
         Connect(control);
     qApp->installEventFilter(&events_);
+    qApp->installEventFilter(&pointer_);
     session_.Start();
 }
 
@@ -111,6 +114,8 @@ void MainWindow::ShowBoard()
     const Scale& scale = size_.Present();
     const bool rescaled = scale != std::exchange(shownAt_, scale);
     ShowControls(controls_, session_, game_.board, scale, rescaled);
+    LetRingsShow(*this, session_.ShowsFocus());
+    pointer_.ShowHand();
 }
 
 void MainWindow::TakeOutOfPlay()
@@ -179,11 +184,15 @@ Desktop MainWindow::LookAtDesktop()
     // A screen can become another size with the window on it, and not all desktops move the window.
     disconnect(ofScreen_);
     ofScreen_ = connect(screen(), &QScreen::availableGeometryChanged, this, [this] { Resized(); });
+    const QRect room = screen()->availableGeometry();
+    const QPoint place = frameGeometry().topLeft() - room.topLeft();
     return {.Window = SizeOf(size()),
         .Borders = SizeOf(frameGeometry().size() - size()),
-        .Screen = SizeOf(screen()->availableGeometry().size()),
-        .GivesRoom = isMaximized() || isFullScreen(),
-        .Minimised = isMinimized()};
+        .Screen = SizeOf(room.size()),
+        .Place = {place.x(), place.y()},
+        .Fills = isMaximized() || isFullScreen(),
+        .Minimised = isMinimized(),
+        .SaysSizeAlone = QGuiApplication::platformName().startsWith("wayland"_L1)};
 }
 
 void MainWindow::Resized()

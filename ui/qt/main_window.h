@@ -5,6 +5,7 @@
 #include "ui/qt/controls.h"
 #include "ui/qt/notice.h"
 #include "ui/qt/player_events.h"
+#include "ui/qt/pointer.h"
 #include "ui/session.h"
 #include "ui/window_size.h"
 
@@ -55,6 +56,7 @@ private:
     WindowSize size_;
     Session session_;
     PlayerEvents events_;
+    Pointer pointer_;
     Scale shownAt_;
     QTimer wake_;
     QTimer askAgain_;

@@ -1,11 +1,14 @@
 #include "ui/qt/player_events.h"
 
+#include "ui/roster.h"
 #include "ui/session.h"
 
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QToolTip>
 
 #include <optional>
 #include <utility>
@@ -88,6 +91,8 @@ bool PlayerEvents::eventFilter(QObject* watched, QEvent* event)
         if (IsHeldEnter(static_cast<QKeyEvent&>(*event), type == QEvent::KeyPress))
             return true;
     }
+    if (type == QEvent::ToolTip)
+        return ShowTip(watched, static_cast<QHelpEvent&>(*event));
     // A key that a control leaves goes on to what holds it, and comes by here again.
     const auto* widget = qobject_cast<QWidget*>(watched);
     const QWidget* focused = window_.focusWidget() != nullptr ? window_.focusWidget() : &window_;
@@ -108,6 +113,17 @@ bool PlayerEvents::eventFilter(QObject* watched, QEvent* event)
     default:
         return false;
     }
+}
+
+// The toolkit would have a reader say the tip of its own where a control has no help.
+bool PlayerEvents::ShowTip(QObject* watched, const QHelpEvent& event)
+{
+    auto* widget = qobject_cast<QWidget*>(watched);
+    const Part* part = PartOf(controls_, widget);
+    if (part == nullptr || *part->Row->ToolTip == '\0')
+        return false;
+    QToolTip::showText(event.globalPos(), QString::fromUtf8(part->Row->ToolTip), widget);
+    return true;
 }
 
 bool PlayerEvents::IsHeldEnter(const QKeyEvent& key, bool press)

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+class QHelpEvent;
 class QKeyEvent;
 class Session;
 
@@ -19,6 +20,7 @@ public:
 
 private:
     bool IsHeldEnter(const QKeyEvent& key, bool press);
+    bool ShowTip(QObject* watched, const QHelpEvent& event);
     bool Press(const QWidget& widget, const QKeyEvent& key);
     void Type(const QString& text);
 

@@ -3,6 +3,8 @@
 
 #include <QGroupBox>
 
+#include <vector>
+
 class TitledFrame : public QGroupBox {
 public:
     using QGroupBox::QGroupBox;
@@ -10,10 +12,14 @@ public:
     // The width of its line, in pixels.
     void SetLine(int line) { line_ = line; }
 
+    // The rows of letters in it, which lie on trays.
+    void SetRows(const std::vector<QRect>& rows);
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    std::vector<QRect> rows_;
     int line_ = 1;
 };

@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 UsedWordsList::UsedWordsList(QWidget* parent)
     : QListWidget(parent)
@@ -30,6 +31,12 @@ void UsedWordsList::SetWords(const QStringList& words)
     scrollToBottom();
 }
 
+void UsedWordsList::SetMark(Mark mark)
+{
+    if (std::exchange(mark_, mark) != mark)
+        viewport()->update();
+}
+
 bool UsedWordsList::event(QEvent* event)
 {
     if (event->type() != QEvent::Paint)
@@ -46,6 +53,8 @@ void UsedWordsList::paintEvent(QPaintEvent* event)
 {
     QListWidget::paintEvent(event);
     QPainter painter(viewport());
-    if (hasFocus())
+    const QRect last = count() == 0 ? viewport()->rect() : visualItemRect(item(count() - 1));
+    DrawMark(painter, last, lineWidth(), palette().color(QPalette::Base), mark_);
+    if (HasRing(*this))
         DrawFocusRing(painter, viewport()->rect(), lineWidth());
 }

@@ -1,6 +1,8 @@
 // The list of used words. It follows the newest word, and shows the focus while it is empty too.
 #pragma once
 
+#include "ui/look.h"
+
 #include <QListWidget>
 
 class UsedWordsList : public QListWidget {
@@ -9,7 +11,13 @@ public:
 
     void SetWords(const QStringList& words);
 
+    // At the last word.
+    void SetMark(Mark mark);
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    Mark mark_ = Mark::None;
 };
