@@ -28,7 +28,7 @@ std::string FaintLetter(const LetterBox& box, const Board& board)
 
 bool HoldsWriting(const Part& part)
 {
-    return part.Row->Is == Kind::GuessBox || part.Row->Is == Kind::List
+    return part.Row->Is == Kind::GuessBox
         || (part.Shows != nullptr && std::holds_alternative<NumberBox Board::*>(*part.Shows));
 }
 

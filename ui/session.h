@@ -88,6 +88,7 @@ public:
 
 private:
     bool PutsBack();
+    const Part* DraggedLilac() const;
     void Deliver(const Part& part);
     void GoTo(const Part* part);
     void LeadTo(const Part* part);

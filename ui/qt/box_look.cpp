@@ -149,6 +149,17 @@ QRect RoomForText(const QWidget& widget, const BoxLook& look)
                                        : widget.rect().adjusted(0, 0, -lip, -lip);
 }
 
+// In the middle, but not below the lip: low boxes have letters that are as high.
+void DrawLetters(QPainter& painter, const QWidget& widget, const BoxLook& look)
+{
+    const QRect room = RoomForText(widget, look);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int baseline = (room.height() + metrics.ascent() - metrics.descent()) / 2;
+    const int lowest = baseline + metrics.tightBoundingRect(look.text).bottom();
+    const int up = std::max(0, lowest - (room.height() - 1 - LineOf(widget)));
+    painter.drawText(room.translated(0, -up), Qt::AlignCenter | Qt::TextDontClip, look.text);
+}
+
 } // namespace
 
 BoxLook BoxLookOf(const Look& look)
@@ -188,7 +199,7 @@ void DrawBox(QWidget& widget, const BoxLook& look, QPalette::ColorRole groundRol
     QPainter painter(&widget);
     painter.fillRect(widget.rect(), ground);
     painter.setPen(ink);
-    painter.drawText(RoomForText(widget, look), Qt::AlignCenter | Qt::TextDontClip, look.text);
+    DrawLetters(painter, widget, look);
     DrawEdge(painter, widget, ground, look);
 }
 

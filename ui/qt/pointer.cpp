@@ -65,7 +65,7 @@ bool Pointer::Move(const QMouseEvent& mouse)
 {
     at_ = mouse.position().toPoint();
     isFinger_ = mouse.device()->type() == QInputDevice::DeviceType::TouchScreen;
-    LetHoverShow(window_, !isFinger_);
+    LetHoverShow(window_, !isFinger_ && !drags_);
     if (drags_ && !mouse.buttons().testFlag(Qt::LeftButton) && mouse.type() == QEvent::MouseMove)
         TakeAway(); // the release has gone elsewhere
     if (pressed_ != nullptr && !swallows_ && HasLeft(*pressed_)) {
