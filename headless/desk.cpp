@@ -149,11 +149,14 @@ void Desk::ShowBoard()
 void Desk::TakeOutOfPlay()
 {
     for (const Part& part : ::Parts()) {
-        looks_[IndexOf(part)].Enabled = IsEnabled(part, board);
-        looks_[IndexOf(part)].OnView = IsOnView(part, board);
+        Look& look = looks_[IndexOf(part)];
+        const bool goes = (look.Enabled && !IsEnabled(part, board))
+            || (look.OnView && !IsOnView(part, board));
+        if (goes && &part == focused_)
+            focused_ = nullptr;
+        look.Enabled = IsEnabled(part, board);
+        look.OnView = IsOnView(part, board);
     }
-    if (focused_ != nullptr && !(IsEnabled(*focused_, board) && IsOnView(*focused_, board)))
-        focused_ = nullptr;
 }
 
 void Desk::PaintNow()

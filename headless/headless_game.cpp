@@ -142,7 +142,7 @@ void HeadlessGame::UseNoList()
 
 void HeadlessGame::RunPending(When when)
 {
-    while (true) {
+    for (auto left = std::ranges::count(pending_, when, &Event::when); left > 0; --left) {
         const auto next = std::ranges::find(pending_, when, &Event::when);
         if (next == pending_.end())
             return;

@@ -79,6 +79,22 @@ Run ReadDrop(const std::string& rest)
     return [part](HeadlessGame& game) { Played(game).InSession().EndDrag(part); };
 }
 
+Run ReadWalk(const std::string& rest)
+{
+    const Run press = ReadKey(rest);
+    return [=](HeadlessGame& game) {
+        std::vector<const Part*> stops;
+        do {
+            stops.push_back(Played(game).Focused());
+            press(game);
+        } while (std::ranges::count(stops, Played(game).Focused()) == 0);
+        std::string walk = "walk";
+        for (const Part* stop : stops)
+            walk += " " + ScriptName(*stop);
+        game.tell(walk + (Played(game).Focused() == stops.front() ? "" : ", not round"));
+    };
+}
+
 // A word that stands alone.
 template <auto run> Run ReadNothing(const std::string& rest)
 {
@@ -155,6 +171,7 @@ constexpr EventWord words[] = {
     {"type", ReadTyping},
     {"paste", ReadPaste},
     {"focus", ReadFocus},
+    {"walk", ReadWalk},
     {"mouse", ReadMouse},
     {"drag", ReadDrag},
     {"drop", ReadDrop},

@@ -15,6 +15,7 @@
 //                             known,
 //                             "%" foreign, ">" next, "-" refused, "'" changed
 //   name:Text1:3              tells what a screen reader says of it
+//   walk:Tab                  tells where the key leads, again and again, until it comes back
 //   hand ring answer          tells the letter in the hand; whether the focus is shown; whether a
 //                             message takes an answer
 //   no-pages                  nothing can show the page that tells how to play

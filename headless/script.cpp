@@ -212,7 +212,10 @@ Event ReadEvent(const std::string& word, EventWords more)
     const When when = word.starts_with('~') ? When::InRepaint
         : word.starts_with('!')             ? When::InMessage
                                             : When::Now;
-    return {ReadDoing(word.substr(when == When::Now ? 0 : 1), more), when};
+    const std::string rest = word.substr(when == When::Now ? 0 : 1);
+    if (rest.starts_with('!') && when != When::Now)
+        return {[event = ReadEvent(rest, more)](HeadlessGame& game) { game.Play(event); }, when};
+    return {ReadDoing(rest, more), when};
 }
 
 void PlayEvents(HeadlessGame& game, const std::string& events, EventWords more)

@@ -19,7 +19,7 @@
 //   computer            a go of the computer
 //   yes no              an answer laid by for a question; one that finds none gets Yes
 //   ~Text1:4            any of these, but waiting for the next repaint
-//   !Text1:4            the same, while the next message is open
+//   !Text1:4            the same, while the next message is open; "!!" the one after it
 // A game of another kind brings words of its own: see desk.h.
 #pragma once
 

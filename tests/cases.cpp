@@ -60,6 +60,6 @@ void ExpectToHold(HeadlessGame& game, const Case& held)
             happened += told + "\n";
     }
     EXPECT_EQ(happened, expected) << "== " << held.name << "\n" << happened;
-    EXPECT_TRUE(game.platform.draws.empty()) << "draws that no rule took";
+    EXPECT_EQ(game.platform.draws.size(), 0U) << "draws that no rule took";
     EXPECT_TRUE(game.view.answers.empty()) << "answers to no question";
 }
