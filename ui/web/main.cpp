@@ -1,0 +1,116 @@
+// The program on a page: a board, a view, a platform and the page that they meet in; and the events
+// of the page, which page/events.js calls.
+#include "game/board.h"
+#include "game/game.h"
+#include "ui/part.h"
+#include "ui/system_platform.h"
+#include "ui/view.h"
+#include "ui/web/page.h"
+#include "ui/web/word_list.h"
+
+#include <emscripten.h>
+
+#include <string>
+
+namespace {
+
+struct Program {
+    Program() { view.PlayIn(page.InSession()); }
+
+    Board board;
+    View view;
+    SystemPlatform platform;
+    Game game{board, view, platform, WordListPath()};
+    Page page{game};
+};
+
+// Meant: never taken down, since the page calls it as long as it is there.
+Program& TheProgram()
+{
+    static auto& program = *new Program;
+    return program;
+}
+
+const Part& PartAt(int place)
+{
+    return Parts()[static_cast<std::size_t>(place)];
+}
+
+int Take(const std::function<bool(Session& session)>& event)
+{
+    Page& page = TheProgram().page;
+    return page.Take([&page, event] { return event(page.InSession()); }) ? 1 : 0;
+}
+
+} // namespace
+
+extern "C" {
+
+EMSCRIPTEN_KEEPALIVE void Begin()
+{
+    TheProgram().page.Start();
+}
+
+EMSCRIPTEN_KEEPALIVE int Click(int place)
+{
+    TheProgram().page.Forget(PartAt(place));
+    return Take([&part = PartAt(place)](Session& session) {
+        session.Click(part);
+        return true;
+    });
+}
+
+EMSCRIPTEN_KEEPALIVE int Press(int key, int held, int atStart, int atEnd)
+{
+    const KeyPress press{static_cast<Key>(key), held != 0, atStart != 0, atEnd != 0};
+    return Take([press](Session& session) { return session.Press(press); });
+}
+
+// The letter as it was typed, and then in its other cases.
+EMSCRIPTEN_KEEPALIVE int Type(const char* typed, const char* lower, const char* upper)
+{
+    const TypedLetter letter{typed, lower, upper};
+    return Take([letter](Session& session) {
+        session.Type(letter);
+        return true;
+    });
+}
+
+EMSCRIPTEN_KEEPALIVE int Edited(int place, const char* text, int erased)
+{
+    TheProgram().page.Forget(PartAt(place));
+    return Take([&part = PartAt(place), text = std::string(text), erased](Session& session) {
+        session.Edited(part, text, erased != 0 ? Edit::Erased : Edit::Typed);
+        return true;
+    });
+}
+
+EMSCRIPTEN_KEEPALIVE int Wrote(int place, const char* text)
+{
+    TheProgram().page.Forget(PartAt(place));
+    return Take([&part = PartAt(place), text = std::string(text)](Session& session) {
+        session.Wrote(part, text);
+        return true;
+    });
+}
+
+EMSCRIPTEN_KEEPALIVE int Tick(int place, int ticked)
+{
+    TheProgram().page.Forget(PartAt(place));
+    return Take([ticked](Session& session) {
+        session.Tick(ticked != 0);
+        return true;
+    });
+}
+
+EMSCRIPTEN_KEEPALIVE void FocusCame(int place)
+{
+    TheProgram().page.InSession().FocusCame(PartAt(place));
+}
+
+EMSCRIPTEN_KEEPALIVE void Wake()
+{
+    TheProgram().page.InSession().Wake();
+}
+
+} // extern "C"

@@ -1,0 +1,192 @@
+#include "ui/web/page.h"
+
+#include "game/board.h"
+#include "game/game.h"
+#include "ui/part.h"
+#include "ui/roster.h"
+#include "ui/web/roster_facts.h"
+#include "ui/web/script.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace {
+
+// The board is that of the window at its one size, however large it is seen.
+constexpr Desktop roomOfItsOwn{.Window = {1, 1}, .GivesRoom = true};
+
+constexpr Scale inTwips{.PixelsPerTwip = 1};
+
+// Tells what is not as it was told before.
+class Difference {
+public:
+    Difference(int part, const std::optional<Look>& before)
+        : part_(part)
+        , before_(before ? &*before : nullptr)
+    {
+    }
+
+    void Tell(const char* field, const Look& look, std::string Look::* is) const
+    {
+        if (before_ == nullptr || before_->*is != look.*is)
+            TellText(part_, field, (look.*is).c_str());
+    }
+    template <typename Value>
+    void Tell(const char* field, const Look& look, Value Look::* is) const
+    {
+        if (before_ == nullptr || before_->*is != look.*is)
+            TellNumber(part_, field, static_cast<double>(look.*is));
+    }
+
+private:
+    int part_;
+    const Look* before_;
+};
+
+} // namespace
+
+Page::Page(Game& game)
+    : game_(game)
+    , size_(game.board)
+    , session_(game, *this)
+    , shown_(Parts().size())
+{
+}
+
+void Page::Start()
+{
+    TellRoster();
+    BuildBoard();
+    session_.Start();
+    size_.ReadSize(roomOfItsOwn);
+}
+
+bool Page::Take(const std::function<bool()>& event)
+{
+    if (ended_)
+        return false;
+    if (!painting_)
+        return event();
+    waiting_.push_back(event);
+    return true;
+}
+
+// A click on one option changes the others of its group.
+void Page::Forget(const Part& part)
+{
+    for (const Part& other : Parts()) {
+        if (&other == &part || (part.Row->Is == Kind::Option && other.Row->Is == Kind::Option))
+            shown_[IndexOf(other)].Is.reset();
+    }
+}
+
+void Page::ShowBoard()
+{
+    if (std::exchange(caption_, game_.board.Caption) != game_.board.Caption)
+        ShowCaption(caption_.c_str());
+    if (const bool inGame = !game_.board.Frame1.Visible; inGame_ != inGame) {
+        inGame_ = inGame;
+        ShowInGame(inGame ? 1 : 0);
+    }
+    for (const Part& part : Parts()) {
+        const int place = static_cast<int>(IndexOf(part));
+        Shown& shown = shown_[IndexOf(part)];
+        const Look look = LookOf(part, game_.board);
+        const Difference difference(place, shown.Is);
+        difference.Tell("text", look, &Look::Text);
+        difference.Tell("faint", look, &Look::Faint);
+        difference.Tell("chosen", look, &Look::Chosen);
+        difference.Tell("edge", look, &Look::Border);
+        difference.Tell("faded", look, &Look::Faded);
+        difference.Tell("name", look, &Look::Name);
+        shown.Is = look;
+        if (IsEnabled(part, game_.board) && !std::exchange(shown.Enabled, true))
+            TellNumber(place, "enabled", 1);
+        if (IsShown(part, game_.board) && !std::exchange(shown.OnView, true))
+            TellNumber(place, "onView", 1);
+        if (PlaceIsTheBoards(part)) {
+            const TwipRect at = PlaceInTwips(part, game_.board);
+            if (at != std::exchange(shown.Place, at))
+                TellPlace(part, at);
+        }
+    }
+}
+
+void Page::TakeOutOfPlay()
+{
+    for (const Part& part : Parts()) {
+        const int place = static_cast<int>(IndexOf(part));
+        Shown& shown = shown_[IndexOf(part)];
+        if (!IsEnabled(part, game_.board) && std::exchange(shown.Enabled, false))
+            TellNumber(place, "enabled", 0);
+        if (!IsShown(part, game_.board) && std::exchange(shown.OnView, false))
+            TellNumber(place, "onView", 0);
+    }
+}
+
+const Part* Page::Focused() const
+{
+    const int place = FocusedPart();
+    return place < 0 ? nullptr : &Parts()[static_cast<std::size_t>(place)];
+}
+
+void Page::Focus(const Part& part)
+{
+    FocusPart(static_cast<int>(IndexOf(part)));
+}
+
+// An event that comes while one of the waiting runs joins them only if that one waits for a frame.
+void Page::PaintNow()
+{
+    painting_ = true;
+    WaitForFrame();
+    painting_ = false;
+    while (!waiting_.empty()) {
+        const std::function<bool()> event = std::move(waiting_.front());
+        waiting_.pop_front();
+        event();
+    }
+}
+
+// Whatever was under way before the message could be seen is not meant for it, nor for what comes
+// after it.
+Answer Page::Ask(const Message& message)
+{
+    waiting_.clear();
+    const PixelRect room = RoomForMessages(game_.board, inTwips);
+    return AskInDialog(message.Text.c_str(), message.Title.c_str(), message.Asks,
+               message.NoIsHarmless, message.EscapeAnswers(), room.Left, room.Top, room.Width,
+               room.Height)
+            != 0
+        ? Answer::Yes
+        : Answer::No;
+}
+
+void Page::End()
+{
+    ended_ = true;
+    waiting_.clear();
+    EndOnPage();
+    std::abort();
+}
+
+void Page::Say(const std::string& text)
+{
+    SayText(text.c_str());
+}
+
+void Page::WakeAfter(int milliseconds)
+{
+    WakeProgramAfter(milliseconds);
+}
+
+std::int64_t Page::Milliseconds() const
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+void Page::OpenHowToPlay()
+{
+    OpenHelp();
+}
