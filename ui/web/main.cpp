@@ -60,9 +60,13 @@ EMSCRIPTEN_KEEPALIVE int Click(int place)
     });
 }
 
-EMSCRIPTEN_KEEPALIVE int Press(int key, int held, int atStart, int atEnd)
+EMSCRIPTEN_KEEPALIVE int Press(int key, int held, int shift, int atStart, int atEnd)
 {
-    const KeyPress press{static_cast<Key>(key), held != 0, atStart != 0, atEnd != 0};
+    const KeyPress press{
+        static_cast<Key>(key), held != 0, shift != 0, atStart != 0, atEnd != 0};
+    if ((press.Is == Key::Tab || press.Is == Key::BackTab)
+        && TheProgram().page.TabLeaves(press.Is == Key::Tab))
+        return 0;
     return Take([press](Session& session) { return session.Press(press); });
 }
 
@@ -101,6 +105,46 @@ EMSCRIPTEN_KEEPALIVE int Tick(int place, int ticked)
         session.Tick(ticked != 0);
         return true;
     });
+}
+
+// These run at once, also while a repaint waits.
+EMSCRIPTEN_KEEPALIVE int PointerDown()
+{
+    return TheProgram().page.InSession().PointerDown() ? 1 : 0;
+}
+
+EMSCRIPTEN_KEEPALIVE int TakesAnswer()
+{
+    return TheProgram().page.InSession().TakesAnswer() ? 1 : 0;
+}
+
+EMSCRIPTEN_KEEPALIVE void PlaceMessage(
+    double pixelsPerTwip, int left, int top, int hasPointer, int x, int y)
+{
+    const auto pointer = hasPointer != 0 ? std::optional(PixelPoint{x, y}) : std::nullopt;
+    TheProgram().page.PlaceMessage({pixelsPerTwip, left, top}, pointer);
+}
+
+EMSCRIPTEN_KEEPALIVE int BeginDrag(int place)
+{
+    return Take([&part = PartAt(place)](Session& session) { return session.BeginDrag(part); });
+}
+
+// Without a place it ends elsewhere.
+EMSCRIPTEN_KEEPALIVE int EndDrag(int place)
+{
+    const Part* to = place < 0 ? nullptr : &PartAt(place);
+    return Take([to](Session& session) {
+        session.EndDrag(to);
+        return true;
+    });
+}
+
+EMSCRIPTEN_KEEPALIVE const char* LetterInHand()
+{
+    static std::string letter;
+    letter = TheProgram().page.InSession().LetterInHand();
+    return letter.c_str();
 }
 
 EMSCRIPTEN_KEEPALIVE void FocusCame(int place)

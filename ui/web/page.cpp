@@ -8,14 +8,13 @@
 #include "ui/web/script.h"
 
 #include <cstdlib>
+#include <string_view>
 #include <utility>
 
 namespace {
 
 // The board is that of the window at its one size, however large it is seen.
 constexpr Desktop roomOfItsOwn{.Window = {1, 1}, .GivesRoom = true};
-
-constexpr Scale inTwips{.PixelsPerTwip = 1};
 
 // Tells what is not as it was told before.
 class Difference {
@@ -84,6 +83,8 @@ void Page::ShowBoard()
 {
     if (std::exchange(caption_, game_.board.Caption) != game_.board.Caption)
         ShowCaption(caption_.c_str());
+    if (std::exchange(showsFocus_, session_.ShowsFocus()) != session_.ShowsFocus())
+        ShowRing(showsFocus_ ? 1 : 0);
     if (const bool inGame = !game_.board.Frame1.Visible; inGame_ != inGame) {
         inGame_ = inGame;
         ShowInGame(inGame ? 1 : 0);
@@ -91,14 +92,16 @@ void Page::ShowBoard()
     for (const Part& part : Parts()) {
         const int place = static_cast<int>(IndexOf(part));
         Shown& shown = shown_[IndexOf(part)];
-        const Look look = LookOf(part, game_.board);
+        const Look look = session_.LookOf(part);
         const Difference difference(place, shown.Is);
         difference.Tell("text", look, &Look::Text);
         difference.Tell("faint", look, &Look::Faint);
         difference.Tell("chosen", look, &Look::Chosen);
         difference.Tell("edge", look, &Look::Border);
+        difference.Tell("mark", look, &Look::Marked);
         difference.Tell("faded", look, &Look::Faded);
         difference.Tell("name", look, &Look::Name);
+        difference.Tell("help", look, &Look::Help);
         shown.Is = look;
         if (IsEnabled(part, game_.board) && !std::exchange(shown.Enabled, true))
             TellNumber(place, "enabled", 1);
@@ -153,13 +156,38 @@ void Page::PaintNow()
 Answer Page::Ask(const Message& message)
 {
     waiting_.clear();
-    const PixelRect room = RoomForMessages(game_.board, inTwips);
-    return AskInDialog(message.Text.c_str(), message.Title.c_str(), message.Asks,
-               message.NoIsHarmless, message.EscapeAnswers(), room.Left, room.Top, room.Width,
-               room.Height)
-            != 0
-        ? Answer::Yes
-        : Answer::No;
+    asked_ = &message;
+    const bool yes = AskInDialog(message.Text.c_str(), message.Title.c_str(), message.Asks,
+                         message.NoIsHarmless, message.EscapeAnswers())
+        != 0;
+    asked_ = nullptr;
+    return yes ? Answer::Yes : Answer::No;
+}
+
+void Page::PlaceMessage(const Scale& scale, std::optional<PixelPoint> pointer)
+{
+    if (asked_ == nullptr)
+        return;
+    const auto measure = [](int widest) {
+        const int height = MeasureDialog(widest);
+        return PixelSize{widest, height};
+    };
+    const PixelRect place = PlaceOfMessage(*asked_, game_.board, scale, measure, pointer);
+    PlaceDialog(place.Left, place.Top, place.Width);
+}
+
+bool Page::TabLeaves(bool onwards) const
+{
+    const Part* from = Focused();
+    const Part* to = StepByTab(from, onwards, session_.Stops(), game_.board);
+    if (from == nullptr || to == nullptr)
+        return from != nullptr;
+    for (const char* name : TabOrder()) {
+        const bool isFrom = name == std::string_view(from->Row->Name);
+        if (isFrom || name == std::string_view(to->Row->Name))
+            return isFrom != onwards;
+    }
+    return false;
 }
 
 void Page::End()
@@ -186,7 +214,13 @@ std::int64_t Page::Milliseconds() const
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
-void Page::OpenHowToPlay()
+int Page::DoubleClickMilliseconds() const
+{
+    return 500; // no browser tells
+}
+
+bool Page::OpenHowToPlay()
 {
     OpenHelp();
+    return true;
 }

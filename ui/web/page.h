@@ -31,6 +31,12 @@ public:
     // browser is to do what it does with such an event.
     bool Take(const std::function<bool()>& event);
 
+    // Puts the message that is open in its place on a board of that scale.
+    void PlaceMessage(const Scale& scale, std::optional<PixelPoint> pointer);
+
+    // The Tab key would go round and begin again: it is for what the page has beside the board.
+    bool TabLeaves(bool onwards) const;
+
     // The browser's own control shows something else by now than it was told.
     void Forget(const Part& part);
 
@@ -44,7 +50,8 @@ public:
     void Say(const std::string& text) override;
     void WakeAfter(int milliseconds) override;
     std::int64_t Milliseconds() const override;
-    void OpenHowToPlay() override;
+    int DoubleClickMilliseconds() const override;
+    bool OpenHowToPlay() override;
 
 private:
     struct Shown {
@@ -60,6 +67,8 @@ private:
     std::vector<Shown> shown_; // by part
     std::string caption_;
     std::optional<bool> inGame_;
+    bool showsFocus_ = false;
+    const Message* asked_ = nullptr; // while it is open
     bool painting_ = false; // waits for a frame
     bool ended_ = false;
     std::deque<std::function<bool()>> waiting_; // for the frame

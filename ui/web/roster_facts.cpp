@@ -5,11 +5,10 @@
 #include "ui/part.h"
 #include "ui/places.h"
 #include "ui/roster.h"
-#include "ui/spoken.h"
+#include "ui/session.h"
 #include "ui/web/script.h"
 #include "ui/window_size.h"
 
-#include <utility>
 #include <variant>
 
 namespace {
@@ -35,10 +34,9 @@ void TellFacts(const Part& part)
     TellText(place, "row", row.Name);
     TellNumber(place, "number", part.Number);
     TellNumber(place, "frame", part.Frame == nullptr ? -1 : static_cast<double>(IndexOf(*part.Frame)));
-    TellNumber(place, "clicked", part.Clicked == nullptr ? 0 : 1);
     TellText(place, "caption", row.Caption);
     TellText(place, "toolTip", row.ToolTip);
-    TellText(place, "help", SpokenHelp(part).c_str());
+    TellNumber(place, "drags", Session::IsForDragging(part) ? 1 : 0);
     TellNumber(place, "heavy", row.Heavy ? 1 : 0);
     TellFont(place, row.Font);
     TellColour(place, "ground", row.Background);

@@ -13,6 +13,7 @@ void BuildBoard();
 
 void ShowCaption(const char* caption);
 void ShowInGame(int inGame);
+void ShowRing(int shown); // of the focus
 
 // The control that has the focus, -1 for none; and another gets it.
 int FocusedPart();
@@ -22,11 +23,13 @@ void SayText(const char* text);
 void WakeProgramAfter(int milliseconds);
 void OpenHelp();
 
-// These wait: until what is shown has been painted; for the answer, 1 for Yes and OK. The room is
-// that of RoomForMessages in twips.
+// These wait: until what is shown has been painted; for the answer, 1 for Yes and OK.
 void WaitForFrame();
-int AskInDialog(const char* text, const char* title, int asks, int noIsHarmless, int escapeAnswers,
-    int left, int top, int width, int height);
+int AskInDialog(const char* text, const char* title, int asks, int noIsHarmless, int escapeAnswers);
+
+// How high the dialog is at a width, and its place, in pixels of the page.
+int MeasureDialog(int width);
+void PlaceDialog(int left, int top, int width);
 
 // Shows that the program has ended, and never returns.
 void EndOnPage();
