@@ -14,7 +14,7 @@
 namespace {
 
 // The board is that of the window at its one size, however large it is seen.
-constexpr Desktop roomOfItsOwn{.Window = {1, 1}, .GivesRoom = true};
+constexpr Desktop roomOfItsOwn{.Window = {1, 1}, .Fills = true};
 
 // Tells what is not as it was told before.
 class Difference {
@@ -100,6 +100,7 @@ void Page::ShowBoard()
         difference.Tell("edge", look, &Look::Border);
         difference.Tell("mark", look, &Look::Marked);
         difference.Tell("faded", look, &Look::Faded);
+        difference.Tell("clear", look, &Look::Clear);
         difference.Tell("name", look, &Look::Name);
         difference.Tell("help", look, &Look::Help);
         shown.Is = look;

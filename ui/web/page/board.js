@@ -4,8 +4,9 @@ import { fitCaption } from "./fit.js";
 
 // In the order of Kind in ui/roster.h, of Edge and of Mark in ui/look.h.
 const kinds = ["frame", "shown", "tile", "guess", "button", "option", "check", "list", "label"];
-const edges = ["flat", "raised", "out-of-play"];
+const edges = ["flat", "raised", "out-of-play", "sunken"];
 const marks = ["none", "known", "foreign", "next", "refused", "changed"];
+const plainPoints = 9.75; // of the system's own face
 
 /**
  * A control as the program tells it, with what has been made of it. What can be set and focused is
@@ -99,7 +100,7 @@ function showWords(control, words) {
 /** @param {Control} control */
 function showLetter(control) {
     control.letter.textContent = control.text || control.faint;
-    control.element.classList.toggle("faint", control.faint !== "");
+    control.element.classList.toggle("hollow", control.text === "" && control.faint !== "");
 }
 
 // How each look is shown.
@@ -119,7 +120,13 @@ const showers = {
             control.input.checked = control.chosen === 1;
     },
     edge: control => void (control.element.dataset.edge = edges[control.edge]),
-    mark: control => void (control.element.dataset.mark = marks[control.mark]),
+    mark(control) {
+        if (control.mark > 0)
+            control.element.dataset.mark = marks[control.mark];
+        else
+            delete control.element.dataset.mark;
+    },
+    clear: control => control.element.classList.toggle("clear", control.clear === 1),
     faded: control => control.element.classList.toggle("faded", control.faded === 1),
     name(control) {
         if (control.ear)
@@ -195,15 +202,16 @@ export class Board {
 
     /** @param {Control} control */
     colour(control) {
-        const { element, ground, ink, points, bold } = control;
+        const { element, ground, ink, face, bold } = control;
         element.classList.toggle("named-ground", ground !== undefined);
         element.classList.toggle("named-ink", ink !== undefined);
         if (ground !== undefined)
             element.style.setProperty("--named-ground", colourOf(ground));
         if (ink !== undefined || ground !== undefined)
             element.style.setProperty("--named-ink", colourOf(ink ?? 0));
-        if (points > 0)
-            element.style.setProperty("--points", points);
+        if (face === 0)
+            control.points = plainPoints;
+        element.style.setProperty("--points", control.points);
         element.classList.toggle("bold", bold === 1);
     }
 
@@ -258,13 +266,12 @@ export class Board {
             input.select();
     }
 
-    // How large the board is seen, and where it begins; nothing where the frames stand in a column.
+    // How large a twip is, and where the board begins.
     scale() {
         const style = getComputedStyle(this.root);
-        if (style.getPropertyValue("--layout").trim() === "column")
-            return null;
-        const place = this.root.getBoundingClientRect();
-        const width = Number(style.getPropertyValue("--board-width"));
-        return { pixels: place.width / width, left: place.left, top: place.top };
+        const column = style.getPropertyValue("--layout").trim() === "column";
+        const { left, top, width } = this.root.getBoundingClientRect();
+        const twips = Number(style.getPropertyValue(column ? "--board-columnWidth" : "--board-width"));
+        return { column, left, top, pixels: width / twips };
     }
 }

@@ -79,11 +79,11 @@ export class MessageBox {
     }
 
     putInPlace() {
-        const scale = this.board.scale();
-        if (scale === null)
+        const { column, pixels, left, top } = this.board.scale();
+        this.box.style.setProperty("--twip", `${pixels}px`);
+        if (column)
             return this.putInColumn();
         const { x, y } = this.mouse ?? { x: 0, y: 0 };
-        const { pixels, left, top } = scale;
         this.program._PlaceMessage(pixels, Math.round(left), Math.round(top), this.mouse ? 1 : 0, x, y);
         const below = this.box.getBoundingClientRect().bottom + margin - this.height();
         if (below > 0) // of a board that is larger than the screen
