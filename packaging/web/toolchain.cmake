@@ -7,5 +7,5 @@ set(catching _Z14Command1_ClickR4Game,_Z14Command3_ClickR4Game,_ZN12_GLOBAL__N_1
 string(APPEND catching
   ER11LexiconFileRKNSt3__212basic_stringIcNS2_11char_traitsIcEENS2_9allocatorIcEEEE)
 set(CMAKE_CXX_FLAGS_INIT "-sEXCEPTION_CATCHING_ALLOWED=[${catching}]")
-set(CMAKE_CXX_FLAGS_MINSIZEREL_INIT -Oz)
+set(CMAKE_CXX_FLAGS_MINSIZEREL -Oz CACHE STRING "")
 include(/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake)

@@ -36,10 +36,9 @@ const Part& PartAt(int place)
     return Parts()[static_cast<std::size_t>(place)];
 }
 
-int Take(const std::function<bool(Session& session)>& event)
+int Take(const PlayerEvent& event)
 {
-    Page& page = TheProgram().page;
-    return page.Take([&page, event] { return event(page.InSession()); }) ? 1 : 0;
+    return TheProgram().page.Take(event) ? 1 : 0;
 }
 
 } // namespace
@@ -54,10 +53,7 @@ EMSCRIPTEN_KEEPALIVE void Begin()
 EMSCRIPTEN_KEEPALIVE int Click(int place)
 {
     TheProgram().page.Forget(PartAt(place));
-    return Take([&part = PartAt(place)](Session& session) {
-        session.Click(part);
-        return true;
-    });
+    return Take({.Is = PlayerEvent::Kind::Click, .At = &PartAt(place)});
 }
 
 EMSCRIPTEN_KEEPALIVE int Press(int key, int held, int shift, int atStart, int atEnd)
@@ -67,44 +63,43 @@ EMSCRIPTEN_KEEPALIVE int Press(int key, int held, int shift, int atStart, int at
     if ((press.Is == Key::Tab || press.Is == Key::BackTab)
         && TheProgram().page.TabLeaves(press.Is == Key::Tab))
         return 0;
-    return Take([press](Session& session) { return session.Press(press); });
+    return Take({.Is = PlayerEvent::Kind::Press, .Pressed = press});
 }
 
 // The letter as it was typed, and then in its other cases.
 EMSCRIPTEN_KEEPALIVE int Type(const char* typed, const char* lower, const char* upper)
 {
-    const TypedLetter letter{typed, lower, upper};
-    return Take([letter](Session& session) {
-        session.Type(letter);
-        return true;
-    });
+    return Take({.Is = PlayerEvent::Kind::Type, .Texts = {typed, lower, upper}});
 }
 
 EMSCRIPTEN_KEEPALIVE int Edited(int place, const char* text, int erased)
 {
     TheProgram().page.Forget(PartAt(place));
-    return Take([&part = PartAt(place), text = std::string(text), erased](Session& session) {
-        session.Edited(part, text, erased != 0 ? Edit::Erased : Edit::Typed);
-        return true;
-    });
+    const auto kind = erased != 0 ? PlayerEvent::Kind::Erase : PlayerEvent::Kind::Edit;
+    return Take({.Is = kind, .At = &PartAt(place), .Texts = {text}});
 }
 
 EMSCRIPTEN_KEEPALIVE int Wrote(int place, const char* text)
 {
     TheProgram().page.Forget(PartAt(place));
-    return Take([&part = PartAt(place), text = std::string(text)](Session& session) {
-        session.Wrote(part, text);
-        return true;
-    });
+    return Take({.Is = PlayerEvent::Kind::Write, .At = &PartAt(place), .Texts = {text}});
 }
 
 EMSCRIPTEN_KEEPALIVE int Tick(int place, int ticked)
 {
     TheProgram().page.Forget(PartAt(place));
-    return Take([ticked](Session& session) {
-        session.Tick(ticked != 0);
-        return true;
-    });
+    return Take({.Is = ticked != 0 ? PlayerEvent::Kind::Tick : PlayerEvent::Kind::Untick});
+}
+
+EMSCRIPTEN_KEEPALIVE int BeginDrag(int place)
+{
+    return Take({.Is = PlayerEvent::Kind::BeginDrag, .At = &PartAt(place)});
+}
+
+// Without a place it ends elsewhere.
+EMSCRIPTEN_KEEPALIVE int EndDrag(int place)
+{
+    return Take({.Is = PlayerEvent::Kind::EndDrag, .At = place < 0 ? nullptr : &PartAt(place)});
 }
 
 // These run at once, also while a repaint waits.
@@ -123,21 +118,6 @@ EMSCRIPTEN_KEEPALIVE void PlaceMessage(
 {
     const auto pointer = hasPointer != 0 ? std::optional(PixelPoint{x, y}) : std::nullopt;
     TheProgram().page.PlaceMessage({pixelsPerTwip, left, top}, pointer);
-}
-
-EMSCRIPTEN_KEEPALIVE int BeginDrag(int place)
-{
-    return Take([&part = PartAt(place)](Session& session) { return session.BeginDrag(part); });
-}
-
-// Without a place it ends elsewhere.
-EMSCRIPTEN_KEEPALIVE int EndDrag(int place)
-{
-    const Part* to = place < 0 ? nullptr : &PartAt(place);
-    return Take([to](Session& session) {
-        session.EndDrag(to);
-        return true;
-    });
 }
 
 EMSCRIPTEN_KEEPALIVE const char* LetterInHand()

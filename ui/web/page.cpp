@@ -60,13 +60,46 @@ void Page::Start()
     size_.ReadSize(roomOfItsOwn);
 }
 
-bool Page::Take(const std::function<bool()>& event)
+bool Page::Take(const PlayerEvent& event)
 {
     if (ended_)
         return false;
     if (!painting_)
-        return event();
+        return Run(event);
     waiting_.push_back(event);
+    return true;
+}
+
+bool Page::Run(const PlayerEvent& event)
+{
+    switch (event.Is) {
+    case PlayerEvent::Kind::Click:
+        session_.Click(*event.At);
+        break;
+    case PlayerEvent::Kind::Press:
+        return session_.Press(event.Pressed);
+    case PlayerEvent::Kind::Type:
+        session_.Type(event.Texts);
+        break;
+    case PlayerEvent::Kind::Edit:
+        session_.Edited(*event.At, event.Texts.front(), Edit::Typed);
+        break;
+    case PlayerEvent::Kind::Erase:
+        session_.Edited(*event.At, event.Texts.front(), Edit::Erased);
+        break;
+    case PlayerEvent::Kind::Write:
+        session_.Wrote(*event.At, event.Texts.front());
+        break;
+    case PlayerEvent::Kind::Tick:
+    case PlayerEvent::Kind::Untick:
+        session_.Tick(event.Is == PlayerEvent::Kind::Tick);
+        break;
+    case PlayerEvent::Kind::BeginDrag:
+        return session_.BeginDrag(*event.At);
+    case PlayerEvent::Kind::EndDrag:
+        session_.EndDrag(event.At);
+        break;
+    }
     return true;
 }
 
@@ -146,9 +179,9 @@ void Page::PaintNow()
     WaitForFrame();
     painting_ = false;
     while (!waiting_.empty()) {
-        const std::function<bool()> event = std::move(waiting_.front());
-        waiting_.pop_front();
-        event();
+        const PlayerEvent event = waiting_.front();
+        waiting_.erase(waiting_.begin());
+        Run(event);
     }
 }
 

@@ -5,11 +5,10 @@
 #include "ui/front_end.h"
 #include "ui/look.h"
 #include "ui/session.h"
+#include "ui/web/player_event.h"
 #include "ui/window_size.h"
 
 #include <chrono>
-#include <deque>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,7 +28,7 @@ public:
 
     // What the player does runs at once, or inside the repaint that is waiting. False when the
     // browser is to do what it does with such an event.
-    bool Take(const std::function<bool()>& event);
+    bool Take(const PlayerEvent& event);
 
     // Puts the message that is open in its place on a board of that scale.
     void PlaceMessage(const Scale& scale, std::optional<PixelPoint> pointer);
@@ -54,6 +53,8 @@ public:
     bool OpenHowToPlay() override;
 
 private:
+    bool Run(const PlayerEvent& event);
+
     struct Shown {
         std::optional<Look> Is; // none: not known
         bool Enabled = true;
@@ -71,5 +72,5 @@ private:
     const Message* asked_ = nullptr; // while it is open
     bool painting_ = false; // waits for a frame
     bool ended_ = false;
-    std::deque<std::function<bool()>> waiting_; // for the frame
+    std::vector<PlayerEvent> waiting_; // for the frame
 };

@@ -205,10 +205,10 @@ export class Board {
         const { element, ground, ink, face, bold } = control;
         element.classList.toggle("named-ground", ground !== undefined);
         element.classList.toggle("named-ink", ink !== undefined);
-        if (ground !== undefined)
-            element.style.setProperty("--named-ground", colourOf(ground));
-        if (ink !== undefined || ground !== undefined)
-            element.style.setProperty("--named-ink", colourOf(ink ?? 0));
+        // Nothing is taken over from the frame.
+        element.style.setProperty("--named-ground", ground === undefined ? "initial" : colourOf(ground));
+        element.style.setProperty("--named-ink",
+            ink === undefined && ground === undefined ? "initial" : colourOf(ink ?? 0));
         if (face === 0)
             control.points = plainPoints;
         element.style.setProperty("--points", control.points);
