@@ -10,6 +10,7 @@
 
 #include <emscripten.h>
 
+#include <cstdlib>
 #include <string>
 
 namespace {
@@ -44,6 +45,12 @@ int Take(const PlayerEvent& event)
 } // namespace
 
 extern "C" {
+
+// The library's own would write to a stream that no player reads, and bring all of printf with it.
+[[noreturn]] void abort_message(const char* /*format*/, ...)
+{
+    std::abort();
+}
 
 EMSCRIPTEN_KEEPALIVE void Begin()
 {

@@ -172,7 +172,7 @@ export class Board {
     tell(place, field, value) {
         if (place < 0)
             return this.root.style.setProperty(`--board-${field}`, String(value));
-        this.controls[place] ??= /** @type {Control} */ ({ place, text: "", faint: "" });
+        this.controls[place] ??= /** @type {any} */ ({ place, text: "", faint: "" });
         const control = this.controls[place];
         control[field] = value;
         if (this.built)
