@@ -63,7 +63,7 @@ bool IsClear(const Part& part, const Board& board)
 
 bool HoldsMark(const Part& part, const std::vector<const Part*>& marked)
 {
-    return std::ranges::find(marked, &part) != marked.end();
+    return std::find(marked.begin(), marked.end(), &part) != marked.end();
 }
 
 // Of a guess: whether the letter is none of those that the hidden words are made of, as one in the

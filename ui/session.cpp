@@ -146,16 +146,19 @@ bool Session::PointerDown()
     return true;
 }
 
+bool Session::IsForDragging(const Part& part)
+{
+    return part.Clicked == FindClick("Text1") || part.Clicked == FindClick("SwapLetters");
+}
+
 bool Session::BeginDrag(const Part& from)
 {
     const Board& board = game_.board;
-    const bool yellow = from.Clicked == FindClick("Text1");
-    const bool lilac = from.Clicked == FindClick("SwapLetters");
-    if (messageIsOpen_ || board.HeldFlag || HasEmptyBox(board.Text1) || !(yellow || lilac)
+    if (messageIsOpen_ || board.HeldFlag || HasEmptyBox(board.Text1) || !IsForDragging(from)
         || !IsInReach(from, board))
         return false;
     dragged_ = &from;
-    if (yellow)
+    if (from.Clicked == FindClick("Text1"))
         Click(from);
     else
         front_.ShowBoard();
