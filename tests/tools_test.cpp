@@ -60,20 +60,24 @@ TEST(Tools, PrintAndEndAsTheyShould)
         {"search/random_sessions", "LIST 2 -7", "", 2,
             "\"-7\" is not a number from 0 to 4294967295\n"},
         {"word_list/check_word_list", "LIST", "", 0,
-            "It keeps the rules: 7011 words of six letters.\nIts largest game finds 2000 words, of "
+            "It keeps the rules: 6967 words of six letters.\nIts largest game finds 2000 words, of "
             "2000 that a game has room for: beyond, thumps, garlic.\n"},
         {"word_list/check_word_list", "FILE", "planet\ngarden\nsimple\n", 1,
-            "Its records, without the last, have fewer than three first letters.\n"},
+            "Its records, without the last, have fewer than three first letters: add words with "
+            "other "
+            "ones, in front of the last.\n"},
         {"word_list/check_word_list", "FILE FILE", "", 2, "usage: check_word_list [--fit] FILE\n"},
         {"word_list/check_word_list", "FILE.none", "", 1, "no word list to read: FILE.none\n"},
         {"word_list/check_word_list", "--fit FILE", "3 planet\n1 garden\n1 simple\npetals\n", 0,
-            "0 words leave, so that the largest game fits:\nIt keeps the rules: 4 words of six "
+            "No word has to leave: the largest game fits.\nIt keeps the rules: 4 words of six "
             "letters.\nIts largest game finds 4 words, of 2000 that a game has room for: garden, "
-            "simple, petals.\npetals\ngarden\nsimple\nplanet\n"},
+            "simple, planet.\nplanet\ngarden\nsimple\npetals\n"},
         {"word_list/check_word_list", "--fit FILE", "9999 planet\n10000 garden\n5simple\n", 1,
-            "Record 1, \"10000 garden\", has 12 letters and not six.\n"
-            "Record 2, \"5simple\", has 7 letters and not six.\n"
-            "Its records, without the last, have fewer than three first letters.\n"},
+            "Record 2, \"10000 garden\", has 12 letters and not six.\n"
+            "Record 3, \"5simple\", has 7 letters and not six.\n"
+            "Its records, without the last, have fewer than three first letters: add words with "
+            "other "
+            "ones, in front of the last.\n"},
     };
     for (const Call& call : calls)
         Expect(call);
