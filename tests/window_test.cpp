@@ -14,6 +14,7 @@
 #include <QDesktopServices>
 #include <QScreen>
 #include <QTextBrowser>
+#include <QToolTip>
 #include <QWindow>
 
 namespace {
@@ -124,8 +125,12 @@ TEST_F(Window, IsReadAsItStands)
     EXPECT_FALSE(notice->visibleRegion().isEmpty()) << "nothing is read of what is not on view";
     Play("wait:5000 Text1:1 wait:5000");
     EXPECT_EQ(notice->accessibleName().toStdString(), board.HeldLetter + " in your hand");
-    // A box that says no help of its own keeps its tool tip from being said instead.
-    EXPECT_EQ(Named("Text1:2").accessibleDescription(), " ");
+    // A tool tip is shown, and no reader says it in place of the help.
+    EXPECT_EQ(Named("Text1:2").toolTip(), "");
+    QHelpEvent hint(QEvent::ToolTip, QPoint(9, 9), Named("Text1:2").mapToGlobal(QPoint(9, 9)));
+    QCoreApplication::sendEvent(&Named("Text1:2"), &hint);
+    EXPECT_EQ(QToolTip::text(), "Click any two boxes to swap ");
+    QToolTip::hideText();
 }
 
 // On screens of several sizes (screens.json): what is seen is what is clicked, and fits.

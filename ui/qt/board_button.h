@@ -11,6 +11,7 @@ public:
     using QPushButton::QPushButton;
 
     void SetLook(const BoxLook& look);
+    const BoxLook& LookNow() const { return look_; }
 
     // The one button that is pressed in every good go has a heavier edge.
     void MakeHeavy() { heavy_ = true; }

@@ -12,6 +12,7 @@ public:
 
     // The same text again leaves cursor and selection as they are.
     void SetLook(const BoxLook& look);
+    const BoxLook& LookNow() const { return look_; }
 
     // What the edit under way does.
     Edit Kind() const { return edit_; }

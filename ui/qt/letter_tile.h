@@ -13,6 +13,7 @@ public:
     explicit LetterTile(QWidget* parent);
 
     void SetLook(const BoxLook& look);
+    const BoxLook& LookNow() const { return look_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -26,6 +27,7 @@ public:
     explicit ShownBox(QWidget* parent);
 
     void SetLook(const BoxLook& look);
+    const BoxLook& LookNow() const { return look_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

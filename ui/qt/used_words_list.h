@@ -13,6 +13,7 @@ public:
 
     // At the last word.
     void SetMark(Mark mark);
+    Mark MarkNow() const { return mark_; }
 
 protected:
     bool event(QEvent* event) override;
