@@ -14,13 +14,13 @@ namespace {
 
 bool GuessHasEmptyBox(const Board& board)
 {
-    return std::ranges::any_of(
-        hiddenWords, [&board](const HiddenWord& word) { return HasEmptyBox(board.*word.Guess); });
+    return std::any_of(std::begin(hiddenWords), std::end(hiddenWords),
+        [&board](const HiddenWord& word) { return HasEmptyBox(board.*word.Guess); });
 }
 
 bool GuessIsRight(const Board& board)
 {
-    return std::ranges::all_of(hiddenWords, [&board](const HiddenWord& word) {
+    return std::all_of(std::begin(hiddenWords), std::end(hiddenWords), [&board](const HiddenWord& word) {
         return Spell(board.*word.Guess) == board.HiddenWords(word.Number);
     });
 }

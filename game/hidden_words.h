@@ -25,6 +25,9 @@ inline constexpr HiddenWord hiddenWords[3] = {
 // The word whose guess is typed into that row, or nullptr.
 constexpr const HiddenWord* FindGuessed(std::string_view guessControl)
 {
-    const auto* word = std::ranges::find(hiddenWords, guessControl, &HiddenWord::GuessControl);
-    return word == std::end(hiddenWords) ? nullptr : word;
+    for (const HiddenWord& word : hiddenWords) {
+        if (word.GuessControl == guessControl)
+            return &word;
+    }
+    return nullptr;
 }

@@ -1,30 +1,43 @@
 #include "game/numbers.h"
 
-#include <array>
 #include <cassert>
-#include <cstdio>
-#include <cstdlib>
-#include <limits>
+#include <charconv>
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <utility>
+
+namespace {
+
+constexpr double largest = 1LL << 53; // up to here a double holds every whole number
+
+// The number that the text begins with, and where it ends.
+std::pair<double, const char*> Read(std::string_view text)
+{
+    std::int64_t number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    return {static_cast<double>(number), read.ptr};
+}
+
+} // namespace
 
 double NumberOf(std::string_view text)
 {
-    const std::string digits(text);
-    char* end = nullptr;
-    const double number = std::strtod(digits.c_str(), &end);
-    assert(!digits.empty() && digits.front() != ' ' && *end == '\0');
+    const auto [number, end] = Read(text);
+    assert(!text.empty() && end == text.data() + text.size() && std::abs(number) <= largest);
     return number;
 }
 
 double LeadingNumberOf(std::string_view text)
 {
-    return std::strtod(std::string(text).c_str(), nullptr);
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return Read(text).first;
 }
 
 std::string PlainForm(double number)
 {
-    std::array<char, std::numeric_limits<double>::max_exponent10 + 3> digits; // a sign, an end
-    const int written = std::snprintf(digits.data(), digits.size(), "%.0f", number);
-    return {digits.data(), static_cast<std::size_t>(written)};
+    assert(std::abs(number) <= largest);
+    return std::to_string(static_cast<std::int64_t>(number));
 }
 
 std::string PaddedForm(double number)

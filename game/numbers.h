@@ -1,4 +1,4 @@
-// Numbers as the boxes write and read them.
+// Numbers as the boxes write and read them: whole ones, as large as a double holds each of them.
 #pragma once
 
 #include <string>

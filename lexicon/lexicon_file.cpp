@@ -1,19 +1,13 @@
 #include "lexicon/lexicon_file.h"
 
 #include "lexicon/encoding.h"
+#include "lexicon/regular_file.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <utility>
-
-#ifndef _WIN32
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 namespace {
 
@@ -23,27 +17,6 @@ constexpr std::size_t largestFile = 4'000'000;
 constexpr std::size_t firstBuffer = 65536; // a list of 9000 six-letter words
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-// Nothing when the path leads to no file that can be opened and has an end.
-File OpenRegularFile(const std::filesystem::path& path)
-{
-#ifdef _WIN32
-    std::error_code error;
-    const bool regular = std::filesystem::is_regular_file(path, error);
-    return {regular ? _wfopen(path.c_str(), L"rb") : nullptr, std::fclose};
-#else
-    // What is opened is looked at, and not what stood there before; and nothing waits for a writer.
-    const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    struct stat status = {};
-    if (descriptor >= 0 && (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))) {
-        close(descriptor);
-        return {nullptr, std::fclose};
-    }
-    return {descriptor >= 0 ? fdopen(descriptor, "rb") : nullptr, std::fclose};
-#endif
-}
 
 bool EndsField(char letter)
 {

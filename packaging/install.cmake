@@ -33,9 +33,6 @@ set_target_properties(quorvel2 PROPERTIES
 if(WIN32) # where the program stands in one folder with all that is its own
   include(packaging/windows/install.cmake)
   return()
-elseif(EMSCRIPTEN)
-  include(packaging/web/install.cmake)
-  return()
 endif()
 
 install(TARGETS quorvel2 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DESTINATION .)

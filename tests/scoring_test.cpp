@@ -29,7 +29,7 @@ TEST(Numbers, AreWrittenAndRead)
     EXPECT_EQ(LeadingNumberOf("  30 points"), 30);
     EXPECT_EQ(LeadingNumberOf(""), 0);
     EXPECT_EQ(LeadingNumberOf("none"), 0);
-    EXPECT_EQ(PlainForm(1e300).size(), 301U);
+    EXPECT_EQ(PlainForm(NumberOf("9007199254740992")), "9007199254740992");
 }
 
 TEST(Ledger, KeepsTwoHundredAndFiftyWordsAndTheListGoesOn)

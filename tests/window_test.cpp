@@ -12,6 +12,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QDesktopServices>
+#include <QHelpEvent>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QToolTip>
@@ -50,6 +51,74 @@ TEST_F(Window, KeepsMouseAndKeysFromWhatIsBelowAMessage)
     };
     Play("Command14");
     EXPECT_TRUE(opened);
+}
+
+// The colour of a dot, which is counted from the far edge where it is negative.
+TEST_F(Window, DrawsThings)
+{
+    struct Row {
+        const char* state;
+        const char* box;
+        QPoint at;
+        const char* colour;
+    };
+    const QPoint ground(5, 9);
+    const QPoint top(9, 2);
+    const QPoint lip(9, -3);
+    const Row rows[] = {
+        {"you=planet swap=simple shown=m...../....../......", "Text1:1", ground, "#ffff00"},
+        {"", "Text1:1", top, "#ffff00"},
+        {"", "Text1:1", lip, "#8a8a00"},
+        {"", "SwapLetters:2", ground, "#ffc0ff"},
+        {"", "Word1:2", lip, "#8a6845"},
+        {"", "Word1:1", lip, "#ff8000"},                      // is not for sale
+        {"you=p.anet held=l2", "Text1:2", ground, "#ffff00"}, // and hollow
+        {"", "Text1:2", top, "#8a8a00"},
+        {"", "Text1:2", lip, "#ffff00"},
+        {"held= you=P----- up=.lanet next:2", "Text1:2", top, "#0048ba"},
+        {"", "Text1:3", top, "#efef7c"},
+        {"guess=m...../....../......", "Text6:1", QPoint(9, 1), "#b05000"},
+        {"guess=(7)...../....../......", "Text6:1", QPoint(2, 1), "#c80000"},
+    };
+    Play("Option1:1 Command1");
+    Set("hidden=marten/lineup/feeder");
+    for (const auto& [state, name, at, colour] : rows) {
+        Set(state);
+        const QImage image = Named(name).grab().toImage();
+        const QPoint dot = at * window.devicePixelRatioF();
+        const int x = (dot.x() + image.width()) % image.width();
+        const int y = (dot.y() + image.height()) % image.height();
+        EXPECT_EQ(image.pixelColor(x, y).name(), colour)
+            << name << " after " << state << " at " << y;
+    }
+}
+
+TEST_F(Window, DragsLetters)
+{
+    struct Row {
+        const char* from;
+        const char* to;
+        const char* after;
+    };
+    const Row rows[] = {
+        {"Text1:2", "SwapLetters:3", "you=pmanet swap=SILPLE"},
+        {"SwapLetters:3", "Text1:2", "you=pmanet swap=SILPLE"},
+        {"Text1:2", "Text1:5", "you=peanlt swap=simple"},
+        {"Text1:2", "YourScore", "you=planet swap=simple"},
+    };
+    Play("Option1:1 Command1");
+    for (const auto& [from, to, after] : rows) {
+        Set("you=planet swap=simple");
+        Play("wait:5000");
+        const auto middle = [this](const char* name) {
+            return Named(name).mapTo(&window, Named(name).rect().center());
+        };
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, middle(from));
+        QTest::mouseMove(window.windowHandle(), middle(to));
+        EXPECT_FALSE(InSession().LetterInHand().empty());
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, middle(to));
+        EXPECT_EQ(Line(board, {"you=", "swap="}), after) << from << " to " << to;
+    }
 }
 
 TEST_F(Window, KeepsTheNewestWordInSight)
@@ -125,12 +194,12 @@ TEST_F(Window, IsReadAsItStands)
     EXPECT_FALSE(notice->visibleRegion().isEmpty()) << "nothing is read of what is not on view";
     Play("wait:5000 Text1:1 wait:5000");
     EXPECT_EQ(notice->accessibleName().toStdString(), board.HeldLetter + " in your hand");
-    // A tool tip is shown, and no reader says it in place of the help.
-    EXPECT_EQ(Named("Text1:2").toolTip(), "");
-    QHelpEvent hint(QEvent::ToolTip, QPoint(9, 9), Named("Text1:2").mapToGlobal(QPoint(9, 9)));
-    QCoreApplication::sendEvent(&Named("Text1:2"), &hint);
+    // A tool tip is shown, and not said where a box has no help of its own.
+    QWidget& box = Named("Text1:2");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&box)->text(QAccessible::Description), "");
+    QHelpEvent rests(QEvent::ToolTip, QPoint(), box.mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(&box, &rests);
     EXPECT_EQ(QToolTip::text(), "Click any two boxes to swap ");
-    QToolTip::hideText();
 }
 
 // On screens of several sizes (screens.json): what is seen is what is clicked, and fits.

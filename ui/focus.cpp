@@ -19,7 +19,8 @@ std::vector<const Part*> RowOf(std::string_view name)
         if (name == part.Row->Name)
             row.push_back(&part);
     }
-    std::ranges::sort(row, {}, &Part::Number);
+    std::sort(row.begin(), row.end(),
+        [](const Part* one, const Part* other) { return one->Number < other->Number; });
     return row;
 }
 
@@ -86,7 +87,7 @@ const Part* StepByTab(const Part* from, bool onwards, const TabStops& stops, con
 {
     const auto order = TabOrder();
     const auto count = static_cast<std::ptrdiff_t>(order.size());
-    const auto here = std::ranges::find_if(order, [from](const char* name) {
+    const auto here = std::find_if(order.begin(), order.end(), [from](const char* name) {
         return from != nullptr && name == std::string_view(from->Row->Name);
     });
     std::ptrdiff_t place = here == order.end() ? (onwards ? -1 : count) : here - order.begin();
@@ -105,10 +106,10 @@ const Part* WalkRow(const Part& from, Key key, const Board& board)
         return nullptr;
     std::vector<const Part*> row = RowOf(from.Row->Name);
     if (key == Key::Left || key == Key::Home)
-        std::ranges::reverse(row);
+        std::reverse(row.begin(), row.end());
     const bool nearest = key == Key::Left || key == Key::Right;
     const Part* to = nullptr;
-    for (auto part = std::ranges::find(row, &from) + 1; part != row.end(); ++part) {
+    for (auto part = std::find(row.begin(), row.end(), &from) + 1; part != row.end(); ++part) {
         if (IsInReach(**part, board) && !(nearest && to != nullptr))
             to = *part;
     }
@@ -140,7 +141,8 @@ bool EndsGoOrBeginsGame(const Outcome& outcome)
 
 bool CallsForPlay(const Outcome& outcome)
 {
-    return std::ranges::any_of(callsForPlay, [&](auto happened) { return happened(outcome); });
+    return std::any_of(std::begin(callsForPlay), std::end(callsForPlay),
+        [&](auto happened) { return happened(outcome); });
 }
 
 // "Make A Guess" leaves the game open where words are missing or wrong.

@@ -28,7 +28,7 @@ std::string FaintLetter(const LetterBox& box, const Board& board)
 
 bool HoldsWriting(const Part& part)
 {
-    return part.Row->Is == Kind::GuessBox || part.Row->Is == Kind::List
+    return part.Row->Is == Kind::GuessBox
         || (part.Shows != nullptr && std::holds_alternative<NumberBox Board::*>(*part.Shows));
 }
 
@@ -63,7 +63,7 @@ bool IsClear(const Part& part, const Board& board)
 
 bool HoldsMark(const Part& part, const std::vector<const Part*>& marked)
 {
-    return std::ranges::find(marked, &part) != marked.end();
+    return std::find(marked.begin(), marked.end(), &part) != marked.end();
 }
 
 // Of a guess: whether the letter is none of those that the hidden words are made of, as one in the

@@ -11,7 +11,7 @@ enum class Edge {
     Flat,      // never for a click
     Raised,    // for a click
     OutOfPlay, // for a click at another time
-    Sunken,    // holds what is written: a number, a guess, the words
+    Sunken,    // a number or a letter is written there
 };
 
 // What the edge tells beside that.

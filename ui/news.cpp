@@ -6,8 +6,6 @@
 #include "game/numbers.h"
 #include "game/rows.h"
 
-#include <sstream>
-
 namespace {
 
 constexpr const char* noMoreSwaps = "no more swaps this go";
@@ -20,10 +18,16 @@ void Add(News& news, const News& more)
 // With single blanks between its words, and none around them.
 std::string Tidied(const std::string& text)
 {
-    std::istringstream words(text);
     std::string tidied;
-    for (std::string word; words >> word;)
-        tidied += tidied.empty() ? word : " " + word;
+    bool ended = false; // a word, by a blank
+    for (const char letter : text) {
+        const bool blank = letter == ' ';
+        if (!blank && !tidied.empty() && ended)
+            tidied += ' ';
+        if (!blank)
+            tidied += letter;
+        ended = blank;
+    }
     return tidied;
 }
 

@@ -67,8 +67,9 @@ const Part& FindPart(std::string_view name, int number)
     for (const Part& part : Parts())
         if (name == part.Row->Name && number == part.Number)
             return part;
-    std::fprintf(
-        stderr, "there is no control %s with a box %d\n", std::string(name).c_str(), number);
+    std::string text = "there is no control ";
+    text.append(name).append(" with a box ").append(std::to_string(number)).append("\n");
+    std::fputs(text.c_str(), stderr);
     std::abort();
 }
 

@@ -18,15 +18,6 @@ const Panel* PanelOf(const Part& part, const Board& board)
     return field == nullptr ? nullptr : &(board.**field);
 }
 
-// Of the roster, in its frame.
-Place PlaceInFrame(const Part& part)
-{
-    const Control& row = *part.Row;
-    const int steps = part.Number - row.Boxes.value_or(BoxNumbers()).First;
-    return {row.At.Left + steps * row.Next.Right, row.At.Top + steps * row.Next.Down, row.At.Width,
-        row.At.Height};
-}
-
 int Pixels(double twips, const Scale& scale)
 {
     return static_cast<int>(std::lround(twips * scale.PixelsPerTwip));
@@ -41,14 +32,21 @@ bool Contains(const TwipRect& outer, const TwipRect& inner)
         && inner.Top + inner.Height <= outer.Top + outer.Height;
 }
 
+TwipRect PlaceInFrame(const Part& part)
+{
+    const Control& row = *part.Row;
+    const int steps = part.Number - row.Boxes.value_or(BoxNumbers()).First;
+    return {1.0 * (row.At.Left + steps * row.Next.Right), 1.0 * (row.At.Top + steps * row.Next.Down),
+        1.0 * row.At.Width, 1.0 * row.At.Height};
+}
+
 TwipRect PlaceInTwips(const Part& part, const Board& board)
 {
     if (const Panel* panel = PanelOf(part, board))
         return {panel->Left, panel->Top, panel->Width, panel->Height};
-    const Place at = PlaceInFrame(part);
+    const TwipRect at = PlaceInFrame(part);
     const TwipRect frame = part.Frame == nullptr ? TwipRect() : PlaceInTwips(*part.Frame, board);
-    return {frame.Left + at.Left, frame.Top + at.Top, static_cast<double>(at.Width),
-        static_cast<double>(at.Height)};
+    return {frame.Left + at.Left, frame.Top + at.Top, at.Width, at.Height};
 }
 
 int LineWidth(const Scale& scale)
@@ -63,7 +61,7 @@ PixelRect PlaceOf(const Part& part, const Board& board, const Scale& scale)
     if (const Panel* panel = PanelOf(part, board))
         return {left + Pixels(panel->Left, scale), top + Pixels(panel->Top, scale),
             Pixels(panel->Width, scale), Pixels(panel->Height, scale)};
-    const Place at = PlaceInFrame(part);
+    const TwipRect at = PlaceInFrame(part);
     const int line = LineWidth(scale);
     // First and last lines are rounded, and not sizes.
     const int first = Pixels(at.Left, scale);

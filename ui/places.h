@@ -9,11 +9,16 @@ struct TwipRect { // from the client area of the window
     double Top = 0;
     double Width = 0;
     double Height = 0;
+
+    bool operator==(const TwipRect&) const = default;
 };
 
 bool Contains(const TwipRect& outer, const TwipRect& inner);
 
-// The level panel and its backing stand where the board says.
+// Of the roster, in the frame that holds the part; without the level panel and its backing.
+TwipRect PlaceInFrame(const Part& part);
+
+// From the client area of the window. The level panel and its backing stand where the board says.
 TwipRect PlaceInTwips(const Part& part, const Board& board);
 
 struct PixelSize {

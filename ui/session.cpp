@@ -52,6 +52,8 @@ Look Session::LookOf(const Part& part) const
     Look look = ::LookOf(part, game_.board, marks_);
     if (&part == led_)
         look.Help.clear();
+    if (&part == DraggedLilac())
+        std::swap(look.Faint, look.Text);
     return look;
 }
 
@@ -144,17 +146,22 @@ bool Session::PointerDown()
     return true;
 }
 
+bool Session::IsForDragging(const Part& part)
+{
+    return part.Clicked == FindClick("Text1") || part.Clicked == FindClick("SwapLetters");
+}
+
 bool Session::BeginDrag(const Part& from)
 {
     const Board& board = game_.board;
-    const bool yellow = from.Clicked == FindClick("Text1");
-    const bool lilac = from.Clicked == FindClick("SwapLetters");
-    if (messageIsOpen_ || board.HeldFlag || HasEmptyBox(board.Text1) || !(yellow || lilac)
+    if (messageIsOpen_ || board.HeldFlag || HasEmptyBox(board.Text1) || !IsForDragging(from)
         || !IsInReach(from, board))
         return false;
     dragged_ = &from;
-    if (yellow)
+    if (from.Clicked == FindClick("Text1"))
         Click(from);
+    else
+        front_.ShowBoard();
     return true;
 }
 
@@ -171,16 +178,24 @@ void Session::EndDrag(const Part* to)
             Click(*to);
             Click(*from);
         }
+        front_.ShowBoard();
         return;
     }
     if (!game_.board.HeldLetter.empty())
         Click(is(to, "Text1") || is(to, "SwapLetters") ? *to : *from);
 }
 
+// Its letter is in no hand of the board's before the drop.
+const Part* Session::DraggedLilac() const
+{
+    return dragged_ != nullptr && dragged_->Clicked == FindClick("SwapLetters") ? dragged_
+                                                                                : nullptr;
+}
+
 std::string Session::LetterInHand() const
 {
-    const bool lilac = dragged_ != nullptr && dragged_->Clicked == FindClick("SwapLetters");
-    return lilac ? BoxOf(*dragged_, game_.board)->Text : game_.board.HeldLetter;
+    const Part* lilac = DraggedLilac();
+    return lilac != nullptr ? BoxOf(*lilac, game_.board)->Text : game_.board.HeldLetter;
 }
 
 const Part& Session::PlaceOfLetterInHand() const

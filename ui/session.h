@@ -34,6 +34,9 @@ public:
     // count: it is the second half of a double click on what has ended a go or begun a game.
     bool PointerDown();
 
+    // Whether a drag can start on the part, at one time or another.
+    static bool IsForDragging(const Part& part);
+
     // A drag has left the part by more than the system's distance: false where none starts there.
     // Then it ends on a part, or on nullptr: elsewhere, by Escape, or as the pointer is taken away.
     bool BeginDrag(const Part& from);
@@ -88,6 +91,7 @@ public:
 
 private:
     bool PutsBack();
+    const Part* DraggedLilac() const;
     void Deliver(const Part& part);
     void GoTo(const Part* part);
     void LeadTo(const Part* part);

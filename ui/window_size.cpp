@@ -27,13 +27,6 @@ constexpr int mostRefusals = 4;
 constexpr int smallStep = 64;
 constexpr int stillness = 300;
 
-// The board with as much room to the right and below as it has to the left, in twips.
-PixelSize BoardSize()
-{
-    const Reach reach = ReachOfFrames();
-    return {reach.Right + 120, reach.Down + 120};
-}
-
 int Rounded(double pixels)
 {
     return static_cast<int>(std::lround(pixels));
@@ -92,6 +85,12 @@ bool Spans(const Desktop& desktop)
 }
 
 } // namespace
+
+PixelSize BoardSize()
+{
+    const Reach reach = ReachOfFrames();
+    return {reach.Right + 120, reach.Down + 120};
+}
 
 PixelSize DesignSize()
 {

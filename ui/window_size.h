@@ -25,6 +25,9 @@ struct Wish {
     int AskAgainAfter = 0;         // milliseconds: then WindowSize::AskAgain; 0 for never
 };
 
+// The board with as much room to the right and below as it has to the left, in twips.
+PixelSize BoardSize();
+
 // The size that the window is built at.
 PixelSize DesignSize();
 

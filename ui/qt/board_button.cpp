@@ -4,14 +4,6 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-#include <utility>
-
-void BoardButton::SetLook(const BoxLook& look)
-{
-    if (std::exchange(look_, look) != look)
-        update();
-}
-
 void BoardButton::paintEvent(QPaintEvent* /*event*/)
 {
     BoxLook look = look_;

@@ -1,17 +1,14 @@
 // The buttons and the check box of the board, with edges and a ring of the focus as its tiles have.
 #pragma once
 
-#include "ui/qt/box_look.h"
+#include "ui/qt/drawn_box.h"
 
 #include <QCheckBox>
 #include <QPushButton>
 
-class BoardButton : public QPushButton {
+class BoardButton : public DrawnBox<QPushButton> {
 public:
-    using QPushButton::QPushButton;
-
-    void SetLook(const BoxLook& look);
-    const BoxLook& LookNow() const { return look_; }
+    using DrawnBox::DrawnBox;
 
     // The one button that is pressed in every good go has a heavier edge.
     void MakeHeavy() { heavy_ = true; }
@@ -20,7 +17,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    BoxLook look_;
     bool heavy_ = false;
 };
 

@@ -5,11 +5,9 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
-
-constexpr const char* ringsShow = "ringsShow";
-constexpr const char* hoverShows = "hoverShows";
 
 // Filled bars stay crisp at every scale of the screen, where a pen would blur. They are measured in
 // whole dots of it: at a scale of 1.5 a bar of one pixel would be one dot here and two there.
@@ -55,20 +53,6 @@ public:
         }
     }
 
-    // The corners of the line alone.
-    void Corners(const QColor& colour)
-    {
-        const int length = std::min(end_.x() - first_.x(), end_.y() - first_.y()) / 3;
-        for (const int left : {first_.x(), end_.x() - length}) {
-            Fill(left, first_.y(), left + length, first_.y() + line_, colour);
-            Fill(left, end_.y() - line_, left + length, end_.y(), colour);
-        }
-        for (const int top : {first_.y(), end_.y() - length}) {
-            Fill(first_.x(), top, first_.x() + line_, top + length, colour);
-            Fill(end_.x() - line_, top, end_.x(), top + length, colour);
-        }
-    }
-
 private:
     void Fill(int left, int top, int right, int bottom, const QColor& colour)
     {
@@ -100,21 +84,21 @@ bool IsPale(const QColor& ground)
     return ground.value() > 127;
 }
 
-QColor LineOn(const QColor& ground)
+// Towards black on a pale ground, towards white on a dark one.
+QColor Tone(const QColor& ground, double onPale, double onDark)
 {
-    return Blend(IsPale(ground) ? Qt::black : Qt::white, ground, 0.65);
+    return IsPale(ground) ? Blend(Qt::black, ground, onPale) : Blend(Qt::white, ground, onDark);
 }
 
-// Of what stands up: a tone between its line and its ground.
-QColor LipOn(const QColor& ground)
+QColor LineOn(const QColor& ground)
 {
-    return Blend(IsPale(ground) ? Qt::black : Qt::white, ground, IsPale(ground) ? 0.42 : 0.3);
+    return Tone(ground, 0.65, 0.65);
 }
 
 // Of the rim around what lies lower, at its upper left.
 QColor ShadowOn(const QColor& ground)
 {
-    return Blend(Qt::black, ground, IsPale(ground) ? 0.42 : 0.8);
+    return Blend(Qt::black, ground, IsPale(ground) ? 0.46 : 0.8);
 }
 
 QRect Inside(const QRect& box, int by)
@@ -125,7 +109,7 @@ QRect Inside(const QRect& box, int by)
 bool IsHovered(const QWidget& widget, const BoxLook& look)
 {
     return look.edge == Edge::Raised && widget.underMouse() && widget.isEnabled()
-        && widget.window()->property(hoverShows).toBool();
+        && widget.window()->property(hover).toBool();
 }
 
 // What lies between the line around the box and its ground.
@@ -136,7 +120,7 @@ void DrawRelief(QPainter& painter, const QWidget& widget, const QColor& ground, 
     if (look.hollow || look.pressed)
         Bars(painter, inner, LipOf(widget)).TopAndLeft(ShadowOn(ground));
     else if (look.edge == Edge::Raised)
-        Bars(painter, inner, LipOf(widget)).BottomAndRight(LipOn(ground));
+        Bars(painter, inner, LipOf(widget)).BottomAndRight(Tone(ground, 0.46, 0.36));
     else if (look.edge == Edge::Sunken)
         Bars(painter, inner, 2 * line).TopAndLeft(Blend(ShadowOn(ground), ground, 0.6));
 }
@@ -147,6 +131,17 @@ QRect RoomForText(const QWidget& widget, const BoxLook& look)
     const int lip = look.edge == Edge::Raised ? LipOf(widget) : 0;
     return look.hollow || look.pressed ? widget.rect().adjusted(lip, lip, 0, 0)
                                        : widget.rect().adjusted(0, 0, -lip, -lip);
+}
+
+// In the middle, but not below the lip: low boxes have letters that are as high.
+void DrawLetters(QPainter& painter, const QWidget& widget, const BoxLook& look)
+{
+    const QRect room = RoomForText(widget, look);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int baseline = (room.height() + metrics.ascent() - metrics.descent()) / 2;
+    const int lowest = baseline + metrics.tightBoundingRect(look.text).bottom();
+    const int up = std::max(0, lowest - (room.height() - 1 - LineOf(widget)));
+    painter.drawText(room.translated(0, -up), Qt::AlignCenter | Qt::TextDontClip, look.text);
 }
 
 } // namespace
@@ -188,7 +183,7 @@ void DrawBox(QWidget& widget, const BoxLook& look, QPalette::ColorRole groundRol
     QPainter painter(&widget);
     painter.fillRect(widget.rect(), ground);
     painter.setPen(ink);
-    painter.drawText(RoomForText(widget, look), Qt::AlignCenter | Qt::TextDontClip, look.text);
+    DrawLetters(painter, widget, look);
     DrawEdge(painter, widget, ground, look);
 }
 
@@ -214,49 +209,28 @@ void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground, co
 
 void DrawMark(QPainter& painter, const QRect& box, int line, const QColor& ground, Mark mark)
 {
-    const bool pale = IsPale(ground);
-    const QColor blue = pale ? QColor(0, 72, 186) : QColor(120, 180, 255);
-    const QColor red = pale ? QColor(200, 0, 0) : QColor(255, 110, 110);
-    const QColor orange = pale ? QColor(176, 80, 0) : QColor(255, 160, 64);
-    switch (mark) {
-    case Mark::None:
-        break;
-    case Mark::Known:
-        DrawOutline(painter, box, 2 * line, orange);
-        break;
-    case Mark::Foreign:
-        DrawOutline(painter, box, 2 * line, red);
-        Bars(painter, box, 2 * line).Perforate(ground);
-        break;
-    case Mark::Next:
-        DrawOutline(painter, box, 3 * line, blue);
-        break;
-    case Mark::Refused:
-        DrawOutline(painter, box, 4 * line, red);
-        break;
-    case Mark::Changed:
-        Bars(painter, box, 3 * line).Corners(blue);
-        break;
+    using Row = std::tuple<Mark, int, QColor, QColor>; // how many lines, and which on a dark ground
+    static const Row rows[] = {
+        {Mark::Known, 2, {176, 80, 0}, {255, 160, 64}},
+        {Mark::Foreign, 2, {200, 0, 0}, {255, 110, 110}},
+        {Mark::Next, 3, {0, 72, 186}, {120, 180, 255}},
+        {Mark::Refused, 4, {200, 0, 0}, {255, 110, 110}},
+        {Mark::Changed, 3, {0, 72, 186}, {120, 180, 255}},
+    };
+    for (const auto& [is, lines, onPale, onDark] : rows) {
+        if (is == mark)
+            DrawOutline(painter, box, lines * line, IsPale(ground) ? onPale : onDark);
     }
+    if (mark == Mark::Foreign) // told from a known letter by more than its colour
+        Bars(painter, box, 2 * line).Perforate(ground);
 }
 
-void DrawTrays(QPainter& painter, const std::vector<QRect>& rows, int line, const QColor& ground)
+void DrawTray(QPainter& painter, const QRect& tray, int line, const QColor& ground)
 {
-    const int rim = 4 * line;
-    std::vector<QRect> trays;
-    for (const QRect& row : rows) {
-        const QRect tray = row.adjusted(-rim, -rim, rim, rim);
-        if (trays.empty() || !trays.back().intersects(tray))
-            trays.push_back(tray);
-        trays.back() |= tray;
-    }
-    const bool pale = IsPale(ground);
-    for (const QRect& tray : trays) {
-        painter.fillRect(tray, Blend(Qt::black, ground, pale ? 0.16 : 0.4));
-        Bars bars(painter, tray, line);
-        bars.BottomAndRight(Blend(Qt::white, ground, pale ? 0.8 : 0.2));
-        bars.TopAndLeft(Blend(Qt::black, ground, pale ? 0.4 : 0.8));
-    }
+    painter.fillRect(tray, Blend(Qt::black, ground, IsPale(ground) ? 0.16 : 0.4));
+    Bars bars(painter, tray, line);
+    bars.BottomAndRight(Blend(Qt::white, ground, IsPale(ground) ? 0.8 : 0.2));
+    bars.TopAndLeft(ShadowOn(ground));
 }
 
 void DrawFocusRing(QPainter& painter, const QRect& box, int line)
@@ -267,23 +241,14 @@ void DrawFocusRing(QPainter& painter, const QRect& box, int line)
 
 bool HasRing(const QWidget& widget)
 {
-    return widget.hasFocus() && widget.window()->property(ringsShow).toBool();
+    return widget.hasFocus() && widget.window()->property(rings).toBool();
 }
 
-void LetRingsShow(QWidget& window, bool show)
+void LetShow(QWidget& window, const char* what, bool shows)
 {
-    if (window.property(ringsShow).toBool() == show)
+    if (window.property(what).toBool() == shows)
         return;
-    window.setProperty(ringsShow, show);
-    if (QWidget* focused = window.focusWidget())
-        focused->update();
-}
-
-void LetHoverShow(QWidget& window, bool show)
-{
-    if (window.property(hoverShows).toBool() == show)
-        return;
-    window.setProperty(hoverShows, show);
+    window.setProperty(what, shows);
     window.update();
 }
 

@@ -7,8 +7,6 @@
 #include <QPalette>
 #include <QString>
 
-#include <vector>
-
 class QPainter;
 class QWidget;
 
@@ -39,18 +37,19 @@ void DrawEdge(QPainter& painter, const QWidget& widget, const QColor& ground, co
 // At the edge of the box.
 void DrawMark(QPainter& painter, const QRect& box, int line, const QColor& ground, Mark mark);
 
-// The hollows that these rows of boxes lie in; rows that are close together lie in one.
-void DrawTrays(QPainter& painter, const std::vector<QRect>& rows, int line, const QColor& ground);
+// A hollow that boxes lie in.
+void DrawTray(QPainter& painter, const QRect& tray, int line, const QColor& ground);
 
 // The ring of the focus, just inside the box: two colours, one of which shows on any other.
 void DrawFocusRing(QPainter& painter, const QRect& box, int line);
 
+// What a window lets be seen: the focus; and a mouse that rests on a control, which no finger does.
+inline constexpr const char* rings = "rings";
+inline constexpr const char* hover = "hover";
+void LetShow(QWidget& window, const char* what, bool shows);
+
 // Whether the widget has the focus, and its window lets that be seen.
 bool HasRing(const QWidget& widget);
-void LetRingsShow(QWidget& window, bool show);
-
-// Whether the window lets a pointer that rests on a control be seen: a mouse, and no finger.
-void LetHoverShow(QWidget& window, bool show);
 
 // A line just inside the box, as many pixels wide, in whole dots of the screen.
 void DrawOutline(QPainter& painter, const QRect& box, int line, const QColor& colour);

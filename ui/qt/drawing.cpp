@@ -46,32 +46,12 @@ void Choose(QAbstractButton& button, bool chosen)
 
 void ShowLook(const BuiltControl& control, const Look& look)
 {
-    const QString text = QString::fromStdString(look.Text);
-    switch (control.Is->Row->Is) {
-    case Kind::LetterTile:
-        As<LetterTile>(control).SetLook(BoxLookOf(look));
-        break;
-    case Kind::ShownBox:
-        As<ShownBox>(control).SetLook(BoxLookOf(look));
-        break;
-    case Kind::GuessBox:
-        As<GuessBox>(control).SetLook(BoxLookOf(look));
-        break;
-    case Kind::List:
-        As<UsedWordsList>(control).SetWords(text.isEmpty() ? QStringList() : text.split(u'\n'));
-        As<UsedWordsList>(control).SetMark(look.Marked);
-        break;
-    case Kind::Option:
-    case Kind::Check:
-        Choose(As<QAbstractButton>(control), look.Chosen);
-        break;
-    case Kind::Button:
-        As<BoardButton>(control).SetLook(BoxLookOf(look));
-        break;
-    case Kind::Frame:
-    case Kind::Label:
-        break;
-    }
+    if (auto* box = dynamic_cast<TakesLook*>(control.Widget))
+        box->SetLook(BoxLookOf(look));
+    else if (auto* button = dynamic_cast<QAbstractButton*>(control.Widget))
+        Choose(*button, look.Chosen);
+    else if (auto* list = dynamic_cast<UsedWordsList*>(control.Widget))
+        list->SetLook(look);
     GiveName(*control.Widget, QString::fromStdString(look.Name));
     control.Widget->setAccessibleDescription(QString::fromStdString(look.Help));
 }
@@ -98,24 +78,22 @@ void Rescale(const BuiltControl& control, const Scale& scale)
         SetMark(As<QAbstractButton>(control), *control.Is->Row, scale);
 }
 
-bool IsRowOfLetters(const Part& part)
+// The boxes of letters in the frame, those that stand close together as one rectangle.
+std::vector<QRect> TraysIn(
+    const Part& frame, const Controls& controls, const Board& board, int line)
 {
-    return part.Row->Is == Kind::LetterTile || (part.Row->Is == Kind::ShownBox && part.Row->Boxes);
-}
-
-// The boxes of the frame that stand side by side, as one rectangle each.
-std::vector<QRect> RowsIn(const Part& frame, const Controls& controls)
-{
-    std::vector<QRect> rows;
+    std::vector<QRect> trays;
     for (const BuiltControl& control : controls) {
-        if (control.Is->Frame != &frame || !IsRowOfLetters(*control.Is))
+        const Part& part = *control.Is;
+        if (part.Frame != &frame || BoxOf(part, board) == nullptr || part.Row->Is == Kind::GuessBox)
             continue;
-        const QRect box = control.Widget->geometry();
-        if (rows.empty() || rows.back().top() != box.top())
-            rows.push_back(box);
-        rows.back() |= box;
+        const QMargins rim = 4 * QMargins(line, line, line, line);
+        const QRect box = control.Widget->geometry().marginsAdded(rim);
+        if (trays.empty() || !trays.back().intersects(box))
+            trays.push_back(box);
+        trays.back() |= box;
     }
-    return rows;
+    return trays;
 }
 
 } // namespace
@@ -140,7 +118,8 @@ void ShowControls(Controls& controls, const Session& session, const Board& board
     }
     for (const BuiltControl& control : controls) {
         if (rescaled && control.Is->Row->Is == Kind::Frame)
-            As<TitledFrame>(control).SetRows(RowsIn(*control.Is, controls));
+            As<TitledFrame>(control).SetTrays(
+                TraysIn(*control.Is, controls, board, LineWidth(scale)));
     }
     GiveFonts(controls, scale.PixelsPerTwip);
 }

@@ -4,10 +4,9 @@
 #include <QPainter>
 
 #include <limits>
-#include <utility>
 
 GuessBox::GuessBox(QWidget* parent)
-    : QLineEdit(parent)
+    : DrawnBox(parent)
 {
     setAlignment(Qt::AlignCenter);
     setFrame(false); // the style's is as dark as the ground of a dark desktop
@@ -19,14 +18,6 @@ void GuessBox::paintEvent(QPaintEvent* event)
     QLineEdit::paintEvent(event);
     QPainter painter(this);
     DrawEdge(painter, *this, palette().color(QPalette::Base), look_);
-}
-
-void GuessBox::SetLook(const BoxLook& look)
-{
-    if (text() != look.text)
-        setText(look.text);
-    if (std::exchange(look_, look) != look)
-        update();
 }
 
 void GuessBox::keyPressEvent(QKeyEvent* event)

@@ -2,17 +2,13 @@
 #pragma once
 
 #include "ui/guess_rows.h"
-#include "ui/qt/box_look.h"
+#include "ui/qt/drawn_box.h"
 
 #include <QLineEdit>
 
-class GuessBox : public QLineEdit {
+class GuessBox : public DrawnBox<QLineEdit> {
 public:
     explicit GuessBox(QWidget* parent);
-
-    // The same text again leaves cursor and selection as they are.
-    void SetLook(const BoxLook& look);
-    const BoxLook& LookNow() const { return look_; }
 
     // What the edit under way does.
     Edit Kind() const { return edit_; }
@@ -23,6 +19,5 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    BoxLook look_;
     Edit edit_ = Edit::Typed;
 };

@@ -2,25 +2,19 @@
 
 #include "ui/qt/silence.h"
 
-#include <utility>
-
 LetterTile::LetterTile(QWidget* parent)
-    : QPushButton(parent)
+    : DrawnBox(parent)
 {
     setCursor(Qt::ArrowCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void LetterTile::SetLook(const BoxLook& look)
+// The toolkit takes the letter for a new name.
+void LetterTile::Write(const QString& text)
 {
-    const QString letter = look.hollow ? QString() : look.text;
-    if (text() != letter) {
-        const Silence silence; // the toolkit takes it for a new name
-        setText(letter);
-    }
-    if (std::exchange(look_, look) != look)
-        update();
+    const Silence silence;
+    setText(text);
 }
 
 void LetterTile::paintEvent(QPaintEvent* /*event*/)
@@ -31,19 +25,12 @@ void LetterTile::paintEvent(QPaintEvent* /*event*/)
 }
 
 ShownBox::ShownBox(QWidget* parent)
-    : QLabel(parent)
+    : DrawnBox(parent)
 {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
     setCursor(Qt::ArrowCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);
-}
-
-void ShownBox::SetLook(const BoxLook& look)
-{
-    setText(look.text);
-    if (std::exchange(look_, look) != look)
-        update();
 }
 
 void ShownBox::paintEvent(QPaintEvent* /*event*/)

@@ -2,36 +2,25 @@
 // shows.
 #pragma once
 
-#include "ui/qt/box_look.h"
+#include "ui/qt/drawn_box.h"
 
 #include <QLabel>
 #include <QPushButton>
 
 // A box with one letter that is clicked.
-class LetterTile : public QPushButton {
+class LetterTile : public DrawnBox<QPushButton> {
 public:
     explicit LetterTile(QWidget* parent);
 
-    void SetLook(const BoxLook& look);
-    const BoxLook& LookNow() const { return look_; }
-
 protected:
+    void Write(const QString& text) override;
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    BoxLook look_;
 };
 
-class ShownBox : public QLabel {
+class ShownBox : public DrawnBox<QLabel> {
 public:
     explicit ShownBox(QWidget* parent);
 
-    void SetLook(const BoxLook& look);
-    const BoxLook& LookNow() const { return look_; }
-
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    BoxLook look_;
 };

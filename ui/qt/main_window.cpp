@@ -114,7 +114,7 @@ void MainWindow::ShowBoard()
     const Scale& scale = size_.Present();
     const bool rescaled = scale != std::exchange(shownAt_, scale);
     ShowControls(controls_, session_, game_.board, scale, rescaled);
-    LetRingsShow(*this, session_.ShowsFocus());
+    LetShow(*this, rings, session_.ShowsFocus());
     pointer_.ShowHand();
 }
 

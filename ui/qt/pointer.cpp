@@ -23,7 +23,7 @@ Pointer::Pointer(QWidget& window, const Controls& controls, Session& session)
 bool Pointer::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == &window_ && event->type() == QEvent::WindowDeactivate)
-        TakeAway();
+        LetGo(nullptr);
     return watched->isWindowType() && watched == window_.windowHandle() && OnWindow(*event);
 }
 
@@ -38,7 +38,7 @@ bool Pointer::OnWindow(QEvent& event)
     case QEvent::MouseButtonRelease:
         return Release(static_cast<QMouseEvent&>(event));
     case QEvent::TouchCancel:
-        TakeAway();
+        LetGo(nullptr);
         return false;
     case QEvent::Leave:
         at_.reset();
@@ -52,7 +52,10 @@ bool Pointer::OnWindow(QEvent& event)
 bool Pointer::Press(const QMouseEvent& mouse)
 {
     Move(mouse);
-    if (!std::exchange(isDown_, true)) {
+    // A release can have gone to a message.
+    const bool alone
+        = mouse.type() == QEvent::MouseButtonPress && mouse.buttons() == mouse.button();
+    if (!std::exchange(isDown_, true) || alone) {
         swallows_ = !session_.PointerDown();
         pressedAt_ = *at_;
         const bool left = mouse.button() == Qt::LeftButton;
@@ -65,9 +68,9 @@ bool Pointer::Move(const QMouseEvent& mouse)
 {
     at_ = mouse.position().toPoint();
     isFinger_ = mouse.device()->type() == QInputDevice::DeviceType::TouchScreen;
-    LetHoverShow(window_, !isFinger_);
+    LetShow(window_, hover, !isFinger_ && !drags_);
     if (drags_ && !mouse.buttons().testFlag(Qt::LeftButton) && mouse.type() == QEvent::MouseMove)
-        TakeAway(); // the release has gone elsewhere
+        LetGo(nullptr); // the release has gone elsewhere
     if (pressed_ != nullptr && !swallows_ && HasLeft(*pressed_)) {
         const Part& from = *std::exchange(pressed_, nullptr);
         drags_ = session_.BeginDrag(from);
@@ -90,22 +93,17 @@ bool Pointer::Release(const QMouseEvent& mouse)
 {
     if (mouse.buttons() != Qt::NoButton)
         return swallows_;
-    isDown_ = false;
-    pressed_ = nullptr;
-    const bool swallowed = std::exchange(swallows_, false);
-    if (std::exchange(drags_, false))
-        session_.EndDrag(PartOf(controls_, window_.childAt(mouse.position().toPoint())));
-    ShowHand();
-    return swallowed; // the control that was pressed has to be let go
+    LetGo(PartOf(controls_, window_.childAt(mouse.position().toPoint())));
+    return std::exchange(swallows_, false); // else the control that was pressed has to be let go
 }
 
-// By another window, or by the desktop.
-void Pointer::TakeAway()
+// Over the part, or over none as another window or the desktop takes the pointer away.
+void Pointer::LetGo(const Part* to)
 {
     pressed_ = nullptr;
     isDown_ = false;
     if (std::exchange(drags_, false))
-        session_.EndDrag(nullptr);
+        session_.EndDrag(to);
     ShowHand();
 }
 
@@ -135,14 +133,12 @@ void Pointer::ShowHand()
     hand_->raise();
 }
 
-// Below the arrow at its right, or at its left where the window ends; above a finger.
+// Below the arrow at its right, or above a finger.
 QPoint Pointer::PlaceOfHand() const
 {
-    const QPoint beside(12, 12);
     const QSize size = hand_->size();
     if (isFinger_)
         return *at_ - QPoint(size.width() / 2, 2 * size.height());
-    const bool fits = at_->x() + beside.x() + size.width() <= window_.width();
-    return {fits ? at_->x() + beside.x() : at_->x() - size.width(),
-        std::min(at_->y() + beside.y(), window_.height() - size.height())};
+    return {std::min(at_->x() + 12, window_.width() - size.width()),
+        std::min(at_->y() + 12, window_.height() - size.height())};
 }

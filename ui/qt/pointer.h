@@ -29,7 +29,7 @@ private:
     bool Press(const QMouseEvent& mouse);
     bool Move(const QMouseEvent& mouse);
     bool Release(const QMouseEvent& mouse);
-    void TakeAway();
+    void LetGo(const Part* to);
     bool HasLeft(const Part& part) const;
     QPoint PlaceOfHand() const;
 

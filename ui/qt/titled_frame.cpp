@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <utility>
 
 bool TitledFrame::event(QEvent* event)
 {
@@ -17,12 +16,6 @@ bool TitledFrame::event(QEvent* event)
         return false;
     }
     return QGroupBox::event(event);
-}
-
-void TitledFrame::SetRows(const std::vector<QRect>& rows)
-{
-    if (std::exchange(rows_, rows) != rows)
-        update();
 }
 
 // A frame with a ground of its own is filled to its line and has its caption inside. One with no
@@ -43,7 +36,8 @@ void TitledFrame::paintEvent(QPaintEvent* /*event*/)
         painter.setClipRect(rect().adjusted(0, 0, 0, -5 * line_)); // a tray begins there
     const QRect box = rect().adjusted(0, top, 0, title().isEmpty() ? 2 * line_ : 0);
     DrawOutline(painter, box, line_, Blend(ink, ground, named ? 0.75 : 0.35));
-    DrawTrays(painter, rows_, line_, ground);
+    for (const QRect& tray : trays_)
+        DrawTray(painter, tray, line_, ground);
     if (title().isEmpty())
         return;
     const QRect caption(8 * line_, filled ? 3 * line_ : top - metrics.height() / 2,

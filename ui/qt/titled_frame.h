@@ -12,14 +12,14 @@ public:
     // The width of its line, in pixels.
     void SetLine(int line) { line_ = line; }
 
-    // The rows of letters in it, which lie on trays.
-    void SetRows(const std::vector<QRect>& rows);
+    // The rows of letters in it lie in these.
+    void SetTrays(const std::vector<QRect>& trays) { trays_ = trays; }
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    std::vector<QRect> rows_;
+    std::vector<QRect> trays_;
     int line_ = 1;
 };

@@ -16,6 +16,15 @@ UsedWordsList::UsedWordsList(QWidget* parent)
     setViewportMargins(1, 1, 1, 1);
 }
 
+// The mark is at the last word.
+void UsedWordsList::SetLook(const Look& look)
+{
+    const QString words = QString::fromStdString(look.Text);
+    SetWords(words.isEmpty() ? QStringList() : words.split(u'\n'));
+    if (std::exchange(mark_, look.Marked) != look.Marked)
+        viewport()->update();
+}
+
 // Words come one at a time to a list that can be long, so what is there already stays.
 void UsedWordsList::SetWords(const QStringList& words)
 {
@@ -29,12 +38,6 @@ void UsedWordsList::SetWords(const QStringList& words)
         clear();
     addItems(words.sliced(count()));
     scrollToBottom();
-}
-
-void UsedWordsList::SetMark(Mark mark)
-{
-    if (std::exchange(mark_, mark) != mark)
-        viewport()->update();
 }
 
 bool UsedWordsList::event(QEvent* event)

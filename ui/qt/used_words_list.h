@@ -9,16 +9,14 @@ class UsedWordsList : public QListWidget {
 public:
     explicit UsedWordsList(QWidget* parent);
 
-    void SetWords(const QStringList& words);
-
-    // At the last word.
-    void SetMark(Mark mark);
-    Mark MarkNow() const { return mark_; }
+    void SetLook(const Look& look);
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void SetWords(const QStringList& words);
+
     Mark mark_ = Mark::None;
 };
