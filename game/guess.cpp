@@ -20,9 +20,10 @@ bool GuessHasEmptyBox(const Board& board)
 
 bool GuessIsRight(const Board& board)
 {
-    return std::all_of(std::begin(hiddenWords), std::end(hiddenWords), [&board](const HiddenWord& word) {
-        return Spell(board.*word.Guess) == board.HiddenWords(word.Number);
-    });
+    return std::all_of(
+        std::begin(hiddenWords), std::end(hiddenWords), [&board](const HiddenWord& word) {
+            return Spell(board.*word.Guess) == board.HiddenWords(word.Number);
+        });
 }
 
 std::string ResultText(const Board& board)

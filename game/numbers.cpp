@@ -1,8 +1,8 @@
 #include "game/numbers.h"
 
+#include <algorithm>
 #include <cassert>
 #include <charconv>
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <utility>

@@ -150,8 +150,8 @@ void Desk::TakeOutOfPlay()
 {
     for (const Part& part : ::Parts()) {
         Look& look = looks_[IndexOf(part)];
-        const bool goes = (look.Enabled && !IsEnabled(part, board))
-            || (look.OnView && !IsOnView(part, board));
+        const bool goes
+            = (look.Enabled && !IsEnabled(part, board)) || (look.OnView && !IsOnView(part, board));
         if (goes && &part == focused_)
             focused_ = nullptr;
         look.Enabled = IsEnabled(part, board);

@@ -36,8 +36,8 @@ TwipRect PlaceInFrame(const Part& part)
 {
     const Control& row = *part.Row;
     const int steps = part.Number - row.Boxes.value_or(BoxNumbers()).First;
-    return {1.0 * (row.At.Left + steps * row.Next.Right), 1.0 * (row.At.Top + steps * row.Next.Down),
-        1.0 * row.At.Width, 1.0 * row.At.Height};
+    return {1.0 * (row.At.Left + steps * row.Next.Right),
+        1.0 * (row.At.Top + steps * row.Next.Down), 1.0 * row.At.Width, 1.0 * row.At.Height};
 }
 
 TwipRect PlaceInTwips(const Part& part, const Board& board)

@@ -65,8 +65,7 @@ EMSCRIPTEN_KEEPALIVE int Click(int place)
 
 EMSCRIPTEN_KEEPALIVE int Press(int key, int held, int shift, int atStart, int atEnd)
 {
-    const KeyPress press{
-        static_cast<Key>(key), held != 0, shift != 0, atStart != 0, atEnd != 0};
+    const KeyPress press{static_cast<Key>(key), held != 0, shift != 0, atStart != 0, atEnd != 0};
     if ((press.Is == Key::Tab || press.Is == Key::BackTab)
         && TheProgram().page.TabLeaves(press.Is == Key::Tab))
         return 0;

@@ -30,8 +30,7 @@ public:
         if (before_ == nullptr || before_->*is != look.*is)
             TellText(part_, field, (look.*is).c_str());
     }
-    template <typename Value>
-    void Tell(const char* field, const Look& look, Value Look::* is) const
+    template <typename Value> void Tell(const char* field, const Look& look, Value Look::* is) const
     {
         if (before_ == nullptr || before_->*is != look.*is)
             TellNumber(part_, field, static_cast<double>(look.*is));

@@ -70,7 +70,7 @@ private:
     std::optional<bool> inGame_;
     bool showsFocus_ = false;
     const Message* asked_ = nullptr; // while it is open
-    bool painting_ = false; // waits for a frame
+    bool painting_ = false;          // waits for a frame
     bool ended_ = false;
     std::vector<PlayerEvent> waiting_; // for the frame
 };

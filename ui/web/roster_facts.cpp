@@ -33,7 +33,8 @@ void TellFacts(const Part& part)
     TellNumber(place, "kind", static_cast<double>(row.Is));
     TellText(place, "row", row.Name);
     TellNumber(place, "number", part.Number);
-    TellNumber(place, "frame", part.Frame == nullptr ? -1 : static_cast<double>(IndexOf(*part.Frame)));
+    TellNumber(
+        place, "frame", part.Frame == nullptr ? -1 : static_cast<double>(IndexOf(*part.Frame)));
     TellText(place, "caption", row.Caption);
     TellText(place, "toolTip", row.ToolTip);
     TellNumber(place, "drags", Session::IsForDragging(part) ? 1 : 0);

@@ -38,8 +38,7 @@ void WaitForFrame()
     AwaitFrame();
 }
 
-int AskInDialog(
-    const char* text, const char* title, int asks, int noIsHarmless, int escapeAnswers)
+int AskInDialog(const char* text, const char* title, int asks, int noIsHarmless, int escapeAnswers)
 {
     return AwaitAnswer(text, title, asks, noIsHarmless, escapeAnswers);
 }
