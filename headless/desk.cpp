@@ -170,6 +170,7 @@ Answer Desk::Ask(const Message& message)
 {
     CheckShown();
     WakeIfDue();
+    session_->MessageShows();
     return AnswerMessage(message);
 }
 

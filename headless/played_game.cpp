@@ -136,12 +136,15 @@ Run ReadWait(const std::string& rest)
 std::string TextOf(const Look& look)
 {
     std::string text = look.Text.empty() ? "." : look.Text;
+    std::ranges::replace(text, '\n', ',');
     text += look.Faint.empty() ? "" : "?" + look.Faint;
     text += look.Above.empty() ? "" : "/" + look.Above;
-    text += look.Border == Edge::Raised ? "^" : look.Border == Edge::OutOfPlay ? "#" : "";
+    constexpr const char* edges[] = {"", "^", "#", "v"};
+    text += edges[static_cast<int>(look.Border)];
     constexpr const char* marks[] = {"", "=", "%", ">", "-", "'"};
     text += marks[static_cast<int>(look.Marked)];
-    return text + (look.Faded ? "~" : "") + (look.Chosen ? "*" : "") + (look.OnView ? "" : "!");
+    return text + (look.Faded ? "~" : "") + (look.Clear ? "&" : "") + (look.Chosen ? "*" : "")
+        + (look.OnView ? "" : "!");
 }
 
 // Of all the boxes that have the name, in their order.

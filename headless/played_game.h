@@ -8,16 +8,15 @@
 //   drag:Text1:3 drop:Text1:5 a drag, and its end; "drop" for one that ends elsewhere
 //   wait:200                  so many milliseconds go by
 //   listen                    from here on it is told what a screen reader says
-//   look:Text1                tells what the boxes of a row, or a control, show: "^" raised, "#"
-//   out
-//                             of play, "~" faded, "*" chosen, "!" off view, "?x" a faint letter,
-//                             "/x" the letter above a guess, "." for no text; and the marks: "="
-//                             known,
-//                             "%" foreign, ">" next, "-" refused, "'" changed
+//   look:Text1                tells what the boxes of a row, or a control, show: "^" raised, "v"
+//                             sunken, "#" out of play, "~" faded, "&" but its letter clear, "*"
+//                             chosen, "!" off view, "?x" a faint letter, "/x" the letter above a
+//                             guess, "." for no text; and the marks: "=" known, "%" foreign, ">"
+//                             next, "-" refused, "'" changed
 //   name:Text1:3              tells what a screen reader says of it
 //   walk:Tab                  tells where the key leads, again and again, until it comes back
-//   hand ring answer          tells the letter in the hand; whether the focus is shown; whether a
-//                             message takes an answer
+//   hand ring answer          tells the letter in the hand; whether the focus is shown; whether
+//                             a message takes an answer
 //   no-pages                  nothing can show the page that tells how to play
 #pragma once
 

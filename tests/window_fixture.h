@@ -36,10 +36,9 @@ private:
     PlayedGame& played_;
 };
 
-class Window : public testing::Test, protected View, public PlayedGame {
+class WindowGame : protected View, public PlayedGame {
 public:
-    Window();
-    void SetUp() override;
+    WindowGame();
 
     Session& InSession() override { return window.InSession(); }
     const Part* Focused() const override { return window.Focused(); }
@@ -67,7 +66,8 @@ public:
     // As an input method gives it, to what has the focus.
     void Compose(const QString& letters) const;
 
-    // Each widget's text, state, place and words are what ui/ says.
+    // Each widget's text, state, look, place and words are what ui/ says. What is wrong with one of
+    // them is told once.
     void ExpectShown(const std::string& when);
 
     // A message is on view: it is answered as the script has it.
@@ -81,3 +81,5 @@ private:
     QPointer<QWidget> met_; // the message that has been told
     Answer answer_ = Answer::Yes;
 };
+
+class Window : public testing::Test, public WindowGame { };

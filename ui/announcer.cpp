@@ -43,6 +43,8 @@ void Announcer::Look()
 
 void Announcer::Say(const std::string& text)
 {
+    if (handlers_ == 0)
+        Gather();
     waiting_.push_back(text);
     Wake();
 }
@@ -71,17 +73,22 @@ void Announcer::Wake()
             static_cast<int>(std::max<std::int64_t>(0, quietUntil_ - front_.Milliseconds())));
 }
 
+// What is new on the board comes after what waits already.
+void Announcer::Gather()
+{
+    const News since = NewsSince(*told_, board_, std::exchange(goHasPassed_, false));
+    waiting_.insert(waiting_.end(), since.begin(), since.end());
+    *told_ = board_;
+}
+
 void Announcer::Tell()
 {
     if (handlers_ != 0)
         return;
-    News news = std::exchange(waiting_, {});
-    const News since = NewsSince(*told_, board_, std::exchange(goHasPassed_, false));
-    news.insert(news.end(), since.begin(), since.end());
-    *told_ = board_;
+    Gather();
     messages_.clear();
     std::string text;
-    for (const std::string& line : news)
+    for (const std::string& line : std::exchange(waiting_, {}))
         text += text.empty() ? line : ". " + line;
     if (!text.empty())
         front_.Say(text);

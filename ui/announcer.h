@@ -34,12 +34,13 @@ public:
     void Tell();
 
 private:
+    void Gather();
     void Wake();
 
     const Board& board_;
     FrontEnd& front_;
     Alarms& alarms_;
-    std::unique_ptr<Board> told_; // as it was when something was told last
+    std::unique_ptr<Board> told_; // as it was when its news were gathered last
     std::unique_ptr<Board> seen_; // as it was shown last
     News waiting_;
     std::string messages_; // that have been read since something was told last

@@ -104,7 +104,9 @@ std::string MoveOfHand(const Board& told, const Board& now)
         return "";
     if (moved == 0)
         return held + " back in its place";
-    return moved == 2 ? held + " and " + come + " change places" : "";
+    if (moved != 2)
+        return "";
+    return come.empty() ? held + " in the empty box" : held + " and " + come + " change places";
 }
 
 // Letters are lifted to be laid out, or placed: "k, 3 of 6". "" when that is not what happens.

@@ -9,6 +9,7 @@ class TakesLook {
 public:
     virtual ~TakesLook() = default;
     virtual void SetLook(const BoxLook& look) = 0;
+    virtual const BoxLook& LookNow() const = 0;
 };
 
 template <typename Widget> class DrawnBox : public Widget, public TakesLook {
@@ -23,6 +24,7 @@ public:
         if (std::exchange(look_, look) != look)
             this->update();
     }
+    const BoxLook& LookNow() const override { return look_; }
 
 protected:
     virtual void Write(const QString& text) { this->setText(text); }
