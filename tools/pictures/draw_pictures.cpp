@@ -1,15 +1,19 @@
 // Draws the pictures of the documents from the real window: the level panel, the steps of a go, and
 // a game in progress on a light and on a dark desktop. The same word list gives the same pictures.
 #include "headless/board_text.h"
+#include "headless/played_game.h"
 #include "headless/script.h"
 #include "ui/qt/board_style.h"
 #include "ui/qt/main_window.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPixmap>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <sstream>
 
 namespace {
 
@@ -25,8 +29,19 @@ constexpr const char* gameInProgress
 constexpr const char* lettersOfAGo
     = "hidden=marten/lineup/feeder shown=m..t../l..e../f..d.. guess=m..t../l..e../f..d.. "
       "you=pamere me=finere swap=ulnted";
-constexpr const char* aGo[] = {"", "Text1:3", "SwapLetters:4", "Command9 Text2:5 Text2:4",
-    "Text2:1 Text2:6 Text2:2 Text2:3", "Command3"};
+struct Step {
+    const char* events;
+    const char* clicks; // that its text tells of
+};
+
+constexpr Step aGo[] = {
+    {"", ""},
+    {"Text1:3", "Text1:3"},
+    {"SwapLetters:4", "SwapLetters:4"},
+    {"Command9 Text2:5 Text2:4", "Command9 Text2:5 Text2:4"},
+    {"Text2:1 Text2:6 Text2:2 Text2:3", "Command3"},
+    {"Command3", ""},
+};
 
 QPalette DarkDesktop()
 {
@@ -41,8 +56,37 @@ QPalette DarkDesktop()
     return palette;
 }
 
-// The window, or a part of it.
-void Draw(MainWindow& window, const QString& file, QRect part = QRect())
+// A ring where to click, and the number of the click where there are several.
+void MarkClicks(QPainter& painter, const MainWindow& window, const std::string& events)
+{
+    const QColor ink(150, 0, 190);
+    std::istringstream names(events);
+    int click = 0;
+    for (std::string name; names >> name;) {
+        const auto named
+            = [&](const BuiltControl& control) { return ScriptName(*control.Is) == name; };
+        const auto control = std::ranges::find_if(window.Parts(), named);
+        Demand(control != window.Parts().end(), "no control " + name);
+        const QRect box(control->Widget->mapTo(&window, QPoint()), control->Widget->size());
+        const QRectF ring = QRectF(box).adjusted(-2, -2, 2, 2);
+        for (const auto& [colour, width] : {std::pair(QColor(Qt::white), 5.5), {ink, 3.0}}) {
+            painter.setPen(QPen(colour, width));
+            painter.drawRoundedRect(ring, 7, 7);
+        }
+        if (events.find(' ') == std::string::npos)
+            continue;
+        const QRectF badge(ring.right() - 10, ring.top() - 10, 16, 16);
+        painter.setPen(QPen(Qt::white, 1.5));
+        painter.setBrush(ink);
+        painter.drawEllipse(badge);
+        painter.setBrush(Qt::NoBrush);
+        painter.setFont(QFont(QStringLiteral("sans-serif"), 8, QFont::Bold));
+        painter.drawText(badge, Qt::AlignCenter, QString::number(++click));
+    }
+}
+
+// The window, or a part of it, with rings where these events click.
+void Draw(MainWindow& window, const QString& file, QRect part = QRect(), const char* events = "")
 {
     if (part.isEmpty())
         part = window.rect();
@@ -50,6 +94,10 @@ void Draw(MainWindow& window, const QString& file, QRect part = QRect())
     picture.setDevicePixelRatio(scale);
     picture.fill(window.palette().color(QPalette::Window));
     window.render(&picture, QPoint(), QRegion(part));
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    MarkClicks(painter, window, events);
+    painter.end();
     Demand(picture.save(file), "cannot write " + file.toStdString());
 }
 
@@ -64,10 +112,10 @@ void DrawGo(const char* wordList, const QString& files)
     PlayEvents(game, "Option1:4 Command1");
     SetBoard(game.board, lettersOfAGo);
     int picture = 0;
-    for (const char* events : aGo) {
-        PlayEvents(game, events);
+    for (const Step& step : aGo) {
+        PlayEvents(game, step.events);
         window.InSession().Show();
-        Draw(window, files.arg(QStringLiteral("go-%1").arg(++picture)), letters);
+        Draw(window, files.arg(QStringLiteral("go-%1").arg(++picture)), letters, step.clicks);
     }
 }
 
