@@ -22,7 +22,7 @@ constexpr Cell column[]
 int WidthOfLine(const Cell* cell)
 {
     int width = FindPart(cell->Frame).Row->At.Width;
-    while (++cell != std::end(column) && cell->Beside)
+    for (++cell; cell != std::end(column) && cell->Beside; ++cell)
         width += 2 * margin + FindPart(cell->Frame).Row->At.Width;
     return width;
 }

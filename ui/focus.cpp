@@ -110,7 +110,7 @@ const Part* WalkRow(const Part& from, Key key, const Board& board)
     const bool nearest = key == Key::Left || key == Key::Right;
     const Part* to = nullptr;
     for (auto part = std::find(row.begin(), row.end(), &from) + 1; part != row.end(); ++part) {
-        if (IsInReach(**part, board) && !(nearest && to != nullptr))
+        if (IsInReach(**part, board) && (!nearest || to == nullptr))
             to = *part;
     }
     return to;

@@ -52,7 +52,7 @@ Edge EdgeOf(const Part& part, const Board& board)
 bool IsFaded(const Part& part, const Board& board)
 {
     const LetterBox* box = BoxOf(part, board);
-    return !IsEnabled(part, board) && !(box == &board.SwapLetters(1) && RedLetterTurnsToo(board));
+    return !IsEnabled(part, board) && (box != &board.SwapLetters(1) || !RedLetterTurnsToo(board));
 }
 
 // A word that is being laid out is what the player looks at.

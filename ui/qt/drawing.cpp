@@ -46,14 +46,15 @@ void Choose(QAbstractButton& button, bool chosen)
 
 void ShowLook(const BuiltControl& control, const Look& look)
 {
-    if (auto* box = dynamic_cast<TakesLook*>(control.Widget))
+    QWidget& widget = *control.Widget;
+    if (auto* box = dynamic_cast<TakesLook*>(&widget))
         box->SetLook(BoxLookOf(look));
-    else if (auto* button = dynamic_cast<QAbstractButton*>(control.Widget))
+    else if (auto* button = dynamic_cast<QAbstractButton*>(&widget))
         Choose(*button, look.Chosen);
-    else if (auto* list = dynamic_cast<UsedWordsList*>(control.Widget))
+    else if (auto* list = dynamic_cast<UsedWordsList*>(&widget))
         list->SetLook(look);
-    GiveName(*control.Widget, QString::fromStdString(look.Name));
-    control.Widget->setAccessibleDescription(QString::fromStdString(look.Help));
+    GiveName(widget, QString::fromStdString(look.Name));
+    widget.setAccessibleDescription(QString::fromStdString(look.Help));
 }
 
 // The mark of an option or a check box is of one size, however the places of its kind are rounded.
