@@ -90,7 +90,7 @@ Run ReadWalk(const std::string& rest)
         } while (std::ranges::count(stops, Played(game).Focused()) == 0);
         std::string walk = "walk";
         for (const Part* stop : stops)
-            walk += " " + ScriptName(*stop);
+            walk.append(" ").append(ScriptName(*stop)); // g++ 12 sees an overlap in a "+" here
         game.tell(walk + (Played(game).Focused() == stops.front() ? "" : ", not round"));
     };
 }
@@ -154,8 +154,10 @@ Run ReadLook(const std::string& rest)
     Demand(std::ranges::any_of(Parts(), named), "no such control");
     return [=](HeadlessGame& game) {
         std::string looks = "look " + rest;
-        for (const Part& part : Parts())
-            looks += named(part) ? " " + TextOf(Played(game).InSession().LookOf(part)) : "";
+        for (const Part& part : Parts()) {
+            if (named(part))
+                looks.append(" ").append(TextOf(Played(game).InSession().LookOf(part)));
+        }
         game.tell(looks);
     };
 }

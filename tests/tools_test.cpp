@@ -26,10 +26,11 @@ void Replace(std::string& text, const std::string& from, const std::string& to)
 void Expect(const Call& call)
 {
     const WordListFile file(call.bytes);
-    std::string command = std::string(call.tool) + " " + call.options + " 2>&1";
-    Replace(command, "LIST", QUORVEL_WORD_LIST);
+    std::string command
+        = "'" QUORVEL_TOOLS_FOLDER + std::string(call.tool) + "' " + call.options + " 2>&1";
+    Replace(command, "LIST", "'" QUORVEL_WORD_LIST "'");
     Replace(command, "FILE", file.Path().string());
-    std::FILE* const pipe = popen((QUORVEL_TOOLS_FOLDER + command).c_str(), "r");
+    std::FILE* const pipe = popen(command.c_str(), "r");
     ASSERT_NE(pipe, nullptr);
     std::string prints;
     for (int letter = 0; (letter = std::fgetc(pipe)) != EOF;)

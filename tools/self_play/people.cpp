@@ -31,7 +31,6 @@ using Words = std::vector<std::string>;
 using Trios = std::vector<std::array<std::string, 3>>;
 
 struct Person {
-    const char* name;
     double knows;        // what part of the list, from its front
     double finds;        // in what part of the goes the person sees a word that is there
     bool buys;           // a letter with every hundred points, as long as more answers are left
@@ -39,9 +38,9 @@ struct Person {
 };
 
 constexpr Person people[] = {
-    {"beginner", 0.25, 0.2, false, 1},
-    {"common player", 0.75, 1.0 / 3, true, 3},
-    {"expert", 1, 1, true, 3},
+    {0.25, 0.2, false, 1},
+    {0.75, 1.0 / 3, true, 3},
+    {1, 1, true, 3},
 };
 
 std::string Sorted(std::string letters)
@@ -189,9 +188,11 @@ private:
 
 void PrintPeople(const std::filesystem::path& list, const Words& words)
 {
-    std::puts("| Person | Level | Wins of 100 games | Goes, median |\n|---|--:|--:|--:|");
-    for (const Person& person : people) {
-        for (std::int16_t level = 1; level <= levels; ++level) {
+    std::puts("| Level | Beginner wins | goes | Common player wins | goes | Expert wins | goes |\n"
+              "|--:|--:|--:|--:|--:|--:|--:|");
+    for (std::int16_t level = 1; level <= levels; ++level) {
+        std::printf("| %d |", level);
+        for (const Person& person : people) {
             int wins = 0;
             std::vector<int> goes;
             for (std::uint32_t seed = 1; seed <= games; ++seed) {
@@ -201,9 +202,10 @@ void PrintPeople(const std::filesystem::path& list, const Words& words)
             }
             std::ranges::nth_element(goes, goes.begin() + games / 2);
             const double part = static_cast<double>(wins) / games;
-            std::printf("| %s | %d | %.0f ± %.0f | %d |\n", person.name, level, 100 * part,
+            std::printf(" %.0f ± %.0f | %d |", 100 * part,
                 200 * std::sqrt(part * (1 - part) / games), goes[games / 2]);
         }
+        std::puts("");
     }
 }
 
@@ -227,12 +229,15 @@ void PrintGames(const std::filesystem::path& list, const Words& words, std::ostr
             shares[k] += std::min(1.0, span / static_cast<double>(different.size())) / openings;
         }
     }
-    std::printf("\nOf %u games %d repeat their words, and %d have one answer.\n\n", openings,
-        repeated, oneAnswer);
+    std::printf("Of %u games %d repeat their words, and %d have one answer.\n\n"
+                "| Level 1 | Level 2 | Level 3 | Level 4 | Level 5 | Level 6 |\n"
+                "|--:|--:|--:|--:|--:|--:|\n|",
+        openings, repeated, oneAnswer);
     for (std::size_t k = 0; k < levels; ++k) {
-        std::printf("Level %zu looks at %.2f of the different words.\n", k + 1, shares[k]);
+        std::printf(" %.2f |", shares[k]);
         data << k + 1 << " " << shares[k] << "\n";
     }
+    std::puts("\n");
 }
 
 } // namespace

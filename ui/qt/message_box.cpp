@@ -134,7 +134,7 @@ private:
         const int line = LineWidth(scale_);
         grid_->setContentsMargins(room, room, room, room);
         grid_->setSpacing(Pixels(5));
-        for (auto* button : findChildren<BoardButton*>()) {
+        for (auto* button : findChildren<QPushButton*>()) {
             button->setFixedSize(Pixels(buttonSize.width()), Pixels(buttonSize.height()));
             button->setContentsMargins(line, line, line, line);
         }
