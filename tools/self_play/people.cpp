@@ -38,9 +38,9 @@ struct Person {
 };
 
 constexpr Person people[] = {
-    {0.25, 0.2, false, 1},
-    {0.75, 1.0 / 3, true, 3},
-    {1, 1, true, 3},
+    {0.25, 0.2, false, 1},    // beginner
+    {0.75, 1.0 / 3, true, 3}, // common player
+    {1, 1, true, 3},          // expert
 };
 
 std::string Sorted(std::string letters)
