@@ -193,7 +193,13 @@ export class Events {
         this.press = this.pressCounts && this.board.controls[place]?.drags === 1
             ? { place, x: event.clientX, y: event.clientY, under: false } : null;
         if (this.press) // so that a finger, too, leaves the tile
-            /** @type {Element} */ (event.target).releasePointerCapture?.(event.pointerId);
+            this.release(/** @type {Element} */ (event.target), event.pointerId);
+    }
+
+    /** @param {Element} element @param {number} pointer */
+    release(element, pointer) {
+        if (element.hasPointerCapture(pointer))
+            element.releasePointerCapture(pointer);
     }
 
     /** @param {PointerEvent} event */
