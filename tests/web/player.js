@@ -10,7 +10,8 @@ const started = Promise.all(["quorvel2.wasm", "Lexicon.txt"]
 
 let now = 0;
 let frames = [];
-let alarms = new Map();
+let lastAlarm = 0;
+const alarms = new Map();
 const turn = () => new Promise(resolve => {
     const channel = new MessageChannel();
     channel.port1.onmessage = resolve;
@@ -19,7 +20,7 @@ const turn = () => new Promise(resolve => {
 const { setTimeout: later } = window;
 performance.now = () => now;
 window.requestAnimationFrame = call => frames.push(call);
-window.setTimeout = (call, wait) => wait > 0 ? (alarms.set(alarms.size + 1, { call, at: now + wait }), alarms.size) : later(call, 0);
+window.setTimeout = (call, wait) => wait > 0 ? (alarms.set(++lastAlarm, { call, at: now + wait }), lastAlarm) : later(call, 0);
 window.clearTimeout = key => alarms.delete(key);
 
 function tell(time) {
@@ -36,8 +37,9 @@ const paint = () => frames.splice(0).forEach(call => call());
 
 class Player {
     constructor(program, stage, list) {
-        Object.assign(this, { program, stage, list, problems: [], board: stage.board, looks: [], says: [], done: new Set(), asked: 0 });
+        Object.assign(this, { program, stage, list, problems: [], played: 0, board: stage.board, looks: [], says: [], done: new Set(), asked: 0 });
         stage.openHelp = () => {};
+        this.news = stage.named("news");
     }
 
     async begin(name) {
@@ -46,6 +48,7 @@ class Player {
         root.replaceChildren();
         Object.assign(this.board, { controls: [], built: false });
         Object.assign(this, { looks: [], says: [], asked: 0 });
+        this.news.replaceChildren();
         alarms.clear();
         this.useList(this.list);
         this.program.ccall("BeginAnew");
@@ -164,6 +167,11 @@ class Player {
     differences(focus, caption) {
         const found = [];
         const at = this.board.placeOf(document.activeElement);
+        // A board that is set in the middle of a case would be told of, too.
+        const said = [...this.news.children].map(line => line.textContent).join("; ");
+        const dueToSay = this.says.slice(-this.news.childElementCount || this.says.length).join("; ");
+        if (this.name === "a random session" && said !== dueToSay)
+            found.push(`says "${said}", due "${dueToSay}"`);
         const told = document.getElementById("caption").textContent;
         if (told !== caption)
             found.push(`caption ${told}`);
@@ -216,6 +224,7 @@ class Player {
     async play(lines, from) {
         for (this.at = from; this.at < lines.length; ++this.at) {
             const [step, ...fields] = lines[this.at].split("\t");
+            this.played += Number(this.steps[step] !== undefined && step !== "at");
             if (step === "key" && fields[1] === "0" && !this.asked && !this.done.has(this.at))
                 return this.leaves = fields[0].toLowerCase().endsWith("tab"), { next: this.at + 1, key: keys[fields[0]] ?? fields[0], shift: fields[2] === "1" || fields[0] === "Backtab" };
             if (step === "case")
@@ -232,7 +241,8 @@ class Player {
             if (step === "end" || this.problems.length > 10)
                 break;
         }
-        return { next: this.problems.length > 10 ? Infinity : this.at + 1, problems: this.problems };
+        const goesOn = this.at + 1 < lines.length && this.problems.length <= 10;
+        return { next: goesOn ? this.at + 1 : null, problems: this.problems, played: this.played };
     }
 }
 

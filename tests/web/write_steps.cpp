@@ -31,17 +31,17 @@ std::string AsUtf8(const std::string& bytes)
 
 class Writer : public Desk {
 public:
-    explicit Writer(const std::string& name, bool random)
+    Writer(std::string name, bool random)
         : Desk(QUORVEL_WORD_LIST)
+        , name_(std::move(name))
         , random_(random)
         , looks_(::Parts().size())
     {
-        Write("case", name);
+        Write("case", name_);
         tell = [this](const std::string& what) { Told(what); };
     }
 
-    // True when it can go on.
-    bool Run(const ScriptLine& line)
+    void Run(const ScriptLine& line)
     {
         const std::string verb = line.text.substr(0, line.text.find(' '));
         settles_ = verb != "do";
@@ -53,12 +53,13 @@ public:
             Write("draws", DrawsText());
         else if (verb == "list")
             WriteList();
-        return !over_;
     }
 
     void PressKey(const Stroke& stroke) override
     {
         Step([&] { Desk::PressKey(stroke); }, "key", stroke.Key, stroke.Held, stroke.Shift);
+        if (depth_ == 0) // each of a walk
+            WriteShown();
     }
     void PressMouse(const Part& part) override
     {
@@ -105,6 +106,24 @@ public:
     }
 
 protected:
+    // A page that is loaded anew knows nothing of the draws before.
+    void StartProgram() override
+    {
+        depth_ = 0;
+        looks_.assign(::Parts().size(), {});
+        Write("case", name_);
+        if (random_)
+            platform = HeadlessPlatform(++restarts_);
+        settles_ = true;
+        Desk::StartProgram();
+        settles_ = false;
+        if (random_)
+            Write("seed", restarts_);
+        else
+            Write("draws", DrawsText());
+        if (game.lexicon != QUORVEL_WORD_LIST)
+            WriteList();
+    }
     void DeliverClick(const ::Click& click, std::int16_t index) override
     {
         Step([&] { Desk::DeliverClick(click, index); }, "click",
@@ -144,7 +163,6 @@ private:
         constexpr std::string_view refused = "refused ";
         if (what == "end") {
             Write("end");
-            over_ = true;
         } else if (what.starts_with(refused)) {
             const Part& part = ReadPart(what.substr(refused.size()));
             if (!IsEnabled(part, board) || !IsOnView(part, board))
@@ -174,8 +192,6 @@ private:
 
     template <typename... Fields> void Write(const char* step, const Fields&... fields)
     {
-        if (over_)
-            return;
         if (std::exchange(writtenAt_, Milliseconds()) != Milliseconds())
             Write("at", Milliseconds());
         std::fputs(step, stdout);
@@ -214,9 +230,10 @@ private:
             board.Caption);
     }
 
+    std::string name_;
     bool random_;
     bool settles_ = true; // the player does nothing
-    bool over_ = false;   // the program has ended
+    int restarts_ = 0;
     int depth_ = 0;       // steps under way
     std::int64_t writtenAt_ = 0;
     std::vector<std::optional<Look>> looks_; // as written last
@@ -228,13 +245,11 @@ std::vector<ScriptLine> LinesOf(const std::string& text)
     return ReadScripts(stream, "").front().lines;
 }
 
-void WriteCase(const std::string& name, std::vector<ScriptLine> lines, bool random)
+void WriteCase(const std::string& name, const std::vector<ScriptLine>& lines, bool random)
 {
     Writer writer(name, random);
-    for (const ScriptLine& line : lines) {
-        if (!writer.Run(line))
-            return;
-    }
+    for (const ScriptLine& line : lines)
+        writer.Run(line);
 }
 
 } // namespace

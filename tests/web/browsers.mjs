@@ -1,0 +1,99 @@
+// A server of pages and three browsers, each with one way to load a page, to run a function in it and
+// to press a key.
+
+import { spawn } from "node:child_process";
+import { readFile } from "node:fs/promises";
+import http from "node:http";
+import path from "node:path";
+import puppeteer from "puppeteer-core";
+
+const kinds = { ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".svg": "image/svg+xml",
+    ".wasm": "application/wasm", ".webmanifest": "application/manifest+json", ".png": "image/png" };
+
+/** @param {string} folder @param {string} below where the page stands on the server */
+export async function serve(folder, below = "/") {
+    const server = http.createServer(async (request, answer) => {
+        const name = decodeURI(request.url.split("?")[0]).slice(below.length) || "index.html";
+        try {
+            const bytes = await readFile(path.join(folder, name));
+            answer.writeHead(200, { "Content-Type": kinds[path.extname(name)] ?? "text/plain" }).end(bytes);
+        } catch {
+            answer.writeHead(404).end();
+        }
+    });
+    await new Promise(resolve => server.listen(0, "127.0.0.1", resolve));
+    const stop = () => (server.close(), server.closeAllConnections());
+    return { address: `http://127.0.0.1:${server.address().port}${below}`, stop };
+}
+
+/** @param {"chrome" | "firefox"} browser @param {string} executablePath */
+async function byPuppeteer(browser, executablePath) {
+    const started = await puppeteer.launch({ browser, executablePath, args: browser === "chrome" ? ["--no-sandbox"] : [] });
+    const page = await started.newPage();
+    page.on("pageerror", error => console.error(error.message));
+    page.on("dialog", dialog => dialog.accept());
+    await page.setViewport({ width: 1280, height: 800 });
+    return {
+        started,
+        page,
+        load: address => page.goto(address),
+        run: (call, ...values) => page.evaluate(call, ...values),
+        async press(key, shift) {
+            if (shift)
+                await page.keyboard.down("Shift");
+            await page.keyboard.press(key);
+            if (shift)
+                await page.keyboard.up("Shift");
+        },
+        close: () => started.close(),
+    };
+}
+
+export const chromium = () => byPuppeteer("chrome", "/usr/bin/chromium");
+export const firefox = () => byPuppeteer("firefox", "/usr/bin/firefox-esr");
+
+// As WebDriver names them.
+const codes = { Tab: "\uE004", ArrowLeft: "\uE012", ArrowUp: "\uE013", ArrowRight: "\uE014", ArrowDown: "\uE015", Home: "\uE011",
+    End: "\uE010", Backspace: "\uE003", Delete: "\uE017", Escape: "\uE00C", Enter: "\uE007", Shift: "\uE008", F1: "\uE031",
+    F2: "\uE032", F4: "\uE034", F8: "\uE038", F9: "\uE039", F10: "\uE03A" };
+
+/** Takes a display of X. @param {string} binary MiniBrowser */
+export async function webkit(binary) {
+    const port = 4000 + process.pid % 1000;
+    const driver = spawn("WebKitWebDriver", [`--port=${port}`], { stdio: "inherit" });
+    let session = "/session";
+    const ask = async (method, name, body) => {
+        const answer = await fetch(`http://127.0.0.1:${port}${session}${name}`, { method, body: body && JSON.stringify(body) });
+        const { value } = await answer.json();
+        if (!answer.ok)
+            throw new Error(`${name}: ${value.message}`);
+        return value;
+    };
+    const capabilities = { alwaysMatch: { "webkitgtk:browserOptions": { binary, args: ["--automation"] }, unhandledPromptBehavior: "accept" } };
+    for (let tries = 0; session === "/session"; ++tries) {
+        await new Promise(resolve => setTimeout(resolve, 200));
+        try {
+            session += `/${(await ask("POST", "", { capabilities })).sessionId}`;
+        } catch (error) {
+            if (tries > 20)
+                throw error;
+        }
+    }
+    await ask("POST", "/timeouts", { script: 120_000 });
+    await ask("POST", "/window/rect", { width: 1300, height: 900 });
+    return {
+        load: url => ask("POST", "/url", { url }),
+        run: (call, ...args) => ask("POST", "/execute/async",
+            { script: `const done = arguments[arguments.length - 1]; Promise.resolve((${call})(...arguments)).then(done, e => done({ next: null, problems: [String(e)] }))`, args }),
+        press(key, shift) {
+            const held = shift ? ["Shift", key] : [key];
+            const strokes = [...held.map(name => ["keyDown", name]), ...held.reverse().map(name => ["keyUp", name])];
+            const actions = strokes.map(([type, name]) => ({ type, value: codes[name] ?? name }));
+            return ask("POST", "/actions", { actions: [{ type: "key", id: "keys", actions }] });
+        },
+        async close() {
+            await ask("DELETE", "").catch(() => {});
+            driver.kill();
+        },
+    };
+}
