@@ -36,7 +36,10 @@ async function byPuppeteer(browser, executablePath) {
     return {
         started,
         page,
-        load: address => page.goto(address),
+        async load(address) {
+            await page.goto(address);
+            await page.bringToFront(); // another one's focus stays where it is
+        },
         run: (call, ...values) => page.evaluate(call, ...values),
         async press(key, shift) {
             if (shift)
@@ -60,7 +63,8 @@ const codes = { Tab: "\uE004", ArrowLeft: "\uE012", ArrowUp: "\uE013", ArrowRigh
 /** Takes a display of X. @param {string} binary MiniBrowser */
 export async function webkit(binary) {
     const port = 4000 + process.pid % 1000;
-    const driver = spawn("WebKitWebDriver", [`--port=${port}`], { stdio: "inherit" });
+    const driver = spawn("WebKitWebDriver", [`--port=${port}`], { stdio: "ignore" });
+    process.on("exit", () => driver.kill());
     let session = "/session";
     const ask = async (method, name, body) => {
         const answer = await fetch(`http://127.0.0.1:${port}${session}${name}`, { method, body: body && JSON.stringify(body) });
@@ -79,12 +83,20 @@ export async function webkit(binary) {
                 throw error;
         }
     }
-    await ask("POST", "/timeouts", { script: 120_000 });
     await ask("POST", "/window/rect", { width: 1300, height: 900 });
     return {
         load: url => ask("POST", "/url", { url }),
-        run: (call, ...args) => ask("POST", "/execute/async",
-            { script: `const done = arguments[arguments.length - 1]; Promise.resolve((${call})(...arguments)).then(done, e => done({ next: null, problems: [String(e)] }))`, args }),
+        // The page keeps its own time, so the driver's patience is not for it.
+        async run(call, ...args) {
+            const script = `window.answer = null; Promise.resolve((${call})(...arguments)).then(given => window.answer = [given]);`;
+            await ask("POST", "/execute/sync", { script, args });
+            for (;;) {
+                const answer = await ask("POST", "/execute/sync", { script: "return window.answer;", args: [] });
+                if (answer !== null)
+                    return answer[0];
+                await new Promise(resolve => setTimeout(resolve, 50));
+            }
+        },
         press(key, shift) {
             const held = shift ? ["Shift", key] : [key];
             const strokes = [...held.map(name => ["keyDown", name]), ...held.reverse().map(name => ["keyUp", name])];

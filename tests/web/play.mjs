@@ -3,6 +3,12 @@
 
 import { chromium, firefox, serve, webkit } from "./browsers.mjs";
 
+async function playFrom(file, from) {
+    while (window.play === undefined) // one engine calls a page loaded before its script has run
+        await new Promise(resolve => setTimeout(resolve, 20));
+    return window.play(file, from);
+}
+
 const [name, folder, steps] = process.argv.slice(2);
 const server = await serve(folder);
 const browser = await (name === "chromium" ? chromium() : name === "firefox" ? firefox() : webkit(name));
@@ -11,7 +17,7 @@ let played = 0;
 for (let next = 0, load = true; next !== null;) {
     if (load)
         await browser.load(server.address);
-    const stopped = await browser.run((file, from) => window.play(file, from), steps, next);
+    const stopped = await browser.run(playFrom, steps, next);
     load = stopped.key === undefined;
     if (load) {
         problems.push(...stopped.problems);

@@ -12,15 +12,18 @@ let now = 0;
 let frames = [];
 let lastAlarm = 0;
 const alarms = new Map();
+const channel = new MessageChannel();
+const turns = [];
+channel.port1.onmessage = () => turns.shift()();
 const turn = () => new Promise(resolve => {
-    const channel = new MessageChannel();
-    channel.port1.onmessage = resolve;
+    turns.push(resolve);
     channel.port2.postMessage(0);
 });
 const { setTimeout: later } = window;
 performance.now = () => now;
 window.requestAnimationFrame = call => frames.push(call);
 window.setTimeout = (call, wait) => wait > 0 ? (alarms.set(++lastAlarm, { call, at: now + wait }), lastAlarm) : later(call, 0);
+window.cancelAnimationFrame = () => {};
 window.clearTimeout = key => alarms.delete(key);
 
 function tell(time) {
@@ -39,7 +42,10 @@ class Player {
     constructor(program, stage, list) {
         Object.assign(this, { program, stage, list, problems: [], played: 0, board: stage.board, looks: [], says: [], done: new Set(), asked: 0 });
         stage.openHelp = () => {};
+        const wait = stage.frame.bind(stage);
+        stage.frame = () => wait().then(() => void (this.goesOn = true));
         this.news = stage.named("news");
+        stage.named("caption").tabIndex = 0; // so that no key leads out of the page
     }
 
     async begin(name) {
@@ -235,7 +241,9 @@ class Player {
                 this.steps[step](fields);
             if (step === "repaint") {
                 this.layBy(lines);
+                this.goesOn = false;
                 paint();
+                await this.until(() => this.goesOn ? "" : "a repaint that does not end");
                 await turn();
             }
             if (step === "end" || this.problems.length > 10)
@@ -252,7 +260,8 @@ let player;
 window.play = async (name, from) => {
     player ??= await makePlayer();
     player.lines ??= (await (await fetch(name)).text()).trimEnd().split("\n");
-    return player.play(player.lines, from);
+    return player.play(player.lines, from).catch(error => ({ next: null, played: player.played,
+        problems: [...player.problems, `${player.name}, step ${player.at + 1}: ${error}`] }));
 };
 
 async function makePlayer() {
