@@ -12,10 +12,11 @@ const kinds = { ".html": "text/html", ".js": "text/javascript", ".css": "text/cs
 
 /** @param {string} folder @param {string} below where the page stands on the server */
 export async function serve(folder, below = "/") {
+    const served = { folder };
     const server = http.createServer(async (request, answer) => {
         const name = decodeURI(request.url.split("?")[0]).slice(below.length) || "index.html";
         try {
-            const bytes = await readFile(path.join(folder, name));
+            const bytes = await readFile(path.join(served.folder, name));
             answer.writeHead(200, { "Content-Type": kinds[path.extname(name)] ?? "text/plain" }).end(bytes);
         } catch {
             answer.writeHead(404).end();
@@ -23,7 +24,7 @@ export async function serve(folder, below = "/") {
     });
     await new Promise(resolve => server.listen(0, "127.0.0.1", resolve));
     const stop = () => (server.close(), server.closeAllConnections());
-    return { address: `http://127.0.0.1:${server.address().port}${below}`, stop };
+    return Object.assign(served, { address: `http://127.0.0.1:${server.address().port}${below}`, stop });
 }
 
 /** @param {"chrome" | "firefox"} browser @param {string} executablePath */
@@ -62,7 +63,7 @@ const codes = { Tab: "\uE004", ArrowLeft: "\uE012", ArrowUp: "\uE013", ArrowRigh
 
 /** Takes a display of X. @param {string} binary MiniBrowser */
 export async function webkit(binary) {
-    const port = 4000 + process.pid % 1000;
+    const port = 20_000 + process.pid % 10_000;
     const driver = spawn("WebKitWebDriver", [`--port=${port}`], { stdio: "ignore" });
     process.on("exit", () => driver.kill());
     let session = "/session";
