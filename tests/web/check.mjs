@@ -1,4 +1,4 @@
-// check.mjs FOLDER PICTURES: the page in that folder as people have it in Chromium: on screens of all
+// check.mjs FOLDER PICTURES [CHECK...]: the page in that folder as people have it in Chromium: on screens of all
 // kinds, for those who hear it, in a hurry, without a network. Pictures of it go to the other folder.
 
 import assert from "node:assert/strict";
@@ -6,7 +6,7 @@ import { cp, mkdir, readFile, rename, writeFile } from "node:fs/promises";
 import axe from "axe-core";
 import { chromium, serve } from "./browsers.mjs";
 
-const [folder, pictures] = process.argv.slice(2);
+const [folder, pictures, ...only] = process.argv.slice(2);
 await mkdir(pictures, { recursive: true });
 const { started, close } = await chromium();
 
@@ -31,7 +31,8 @@ class Visit {
     }
 
     see = (selector, shown = true) => this.page.waitForSelector(selector, { visible: shown, hidden: !shown, timeout: 5000 });
-    run = (call, ...values) => this.page.evaluate(call, ...values);
+    // Again where the page goes elsewhere meanwhile.
+    run = (call, ...values) => this.page.evaluate(call, ...values).catch(() => this.page.evaluate(call, ...values));
     press = key => this.page.keyboard.press(key);
     async click(...selectors) {
         for (const selector of selectors)
@@ -149,23 +150,21 @@ async function checkHurry(address) {
     const below = count => (seed = seed * 48271 % 0x7fffffff) % count;
     for (let round = 0; round < 10; ++round) {
         const [width, height] = screens[round % 2 === 0 ? "lying" : "phone"];
+        const places = await visit.run(all => all.map(name => {
+            const { left = 0, top = 0, width = 0, height = 0 } = document.getElementById(name)?.getBoundingClientRect() ?? {};
+            return { x: left + width / 2, y: top + height / 2 };
+        }), names);
         const sent = [];
         for (let event = 0; event < 100; ++event) {
-            if (below(3) === 0) {
-                const key = keys[below(keys.length)];
+            const place = places[below(places.length)];
+            const key = keys[below(keys.length)];
+            const kind = below(3);
+            if (kind === 0) {
                 sent.push(client.send("Input.dispatchKeyEvent", { type: "keyDown", key, text: key.length === 1 ? key : key === "Enter" ? "\r" : undefined }));
-                continue;
-            }
-            const place = await visit.run(name => {
-                const { left, top, width, height } = document.getElementById(name)?.getBoundingClientRect() ?? {};
-                return { x: left + width / 2, y: top + height / 2 };
-            }, names[below(names.length)]);
-            if (!(place.x > 0 && place.y > 0 && place.y < height))
-                continue;
-            if (below(2) === 0) {
+            } else if (place.x > 0 && kind === 1) {
                 sent.push(client.send("Input.dispatchTouchEvent", { type: "touchStart", touchPoints: [place] }));
                 sent.push(client.send("Input.dispatchTouchEvent", { type: "touchEnd", touchPoints: [] }));
-            } else {
+            } else if (place.x > 0) {
                 for (const type of ["mousePressed", "mouseReleased"])
                     sent.push(client.send("Input.dispatchMouseEvent", { type, ...place, button: "left", clickCount: 1 }));
             }
@@ -228,7 +227,7 @@ async function checkAlwaysThere(pages) {
 
 // Nothing to play with: one message, then the end.
 async function checkWithoutList(pages) {
-    const visit = await Visit.to("about:blank");
+    const visit = await Visit.to("about:blank", { context: await started.createBrowserContext() });
     await visit.page.setRequestInterception(true);
     visit.page.on("request", request => request.url().endsWith("Lexicon.txt") ? request.respond({ status: 404 }) : request.continue());
     await visit.page.goto(pages.address);
@@ -256,7 +255,7 @@ const checks = {
     list: () => checkWithoutList(pages),
     always: () => checkAlwaysThere(pages),
 };
-for (const [name, check] of Object.entries(checks)) {
+for (const [name, check] of Object.entries(checks).filter(([name]) => only.length === 0 || only.includes(name))) {
     const from = Date.now();
     await check();
     console.log(`${name}: ${Date.now() - from} ms`);

@@ -91,6 +91,11 @@ EMSCRIPTEN_KEEPALIVE int PointerDown()
     return ThePage().InSession().PointerDown() ? 1 : 0;
 }
 
+EMSCRIPTEN_KEEPALIVE void MessageShows()
+{
+    ThePage().InSession().MessageShows();
+}
+
 EMSCRIPTEN_KEEPALIVE int TakesAnswer()
 {
     return ThePage().InSession().TakesAnswer() ? 1 : 0;
