@@ -18,7 +18,7 @@ namespace {
 
 std::string Replaced(std::string text, char from, char to)
 {
-    std::ranges::replace(text, from, to);
+    std::replace(text.begin(), text.end(), from, to);
     return text;
 }
 
@@ -102,9 +102,9 @@ void SetHidden(Board& board, const std::string& text)
     const std::vector<std::string> words = Split(text, '/');
     const auto isWord
         = [](const std::string& word) { return CountLetters(word) == lettersPerWord; };
-    Demand(words.size() == 3 && std::ranges::all_of(words, isWord),
+    Demand(words.size() == 3 && std::all_of(words.begin(), words.end(), isWord),
         "three words of six letters have slashes between them");
-    std::ranges::copy(words, board.HiddenWords.begin());
+    std::copy(words.begin(), words.end(), board.HiddenWords.begin());
 }
 
 // Words and how often they are repeated, as in "150*garden,planet"; a number alone is the count of
@@ -132,7 +132,7 @@ std::vector<std::string> NamesOfArranging()
     const auto board = std::make_unique<Board>();
     for (Button* button : ArrangingButtons(*board)) {
         button->Enabled = false;
-        const auto click = std::ranges::find_if(Clicks(),
+        const auto click = std::find_if(Clicks().begin(), Clicks().end(),
             [&board](const Click& row) { return row.Boxes == 0 && !row.Enabled(*board, 0); });
         assert(click != Clicks().end());
         names.emplace_back(click->Control);
@@ -169,8 +169,9 @@ void SetOff(Board& board, const std::string& off)
         button->Enabled = !all;
     const std::vector<std::string> names = Split(off, all ? '-' : ',');
     for (std::size_t k = all ? 1 : 0; k < names.size() && !off.empty(); ++k) {
-        const auto place = std::ranges::find(Arranging(), names[k]) - Arranging().begin();
-        Demand(place < std::ssize(Arranging()), names[k] + " arranges no letters");
+        const auto& controls = Arranging();
+        const auto place = std::find(controls.begin(), controls.end(), names[k]) - controls.begin();
+        Demand(place < std::ssize(controls), names[k] + " arranges no letters");
         group[static_cast<std::size_t>(place)]->Enabled = all;
     }
 }
@@ -186,7 +187,8 @@ using RowsOfBoard = std::vector<LetterRow Board::*>;
 RowsOfBoard OfHiddenWords(LetterRow Board::* HiddenWord::* row)
 {
     RowsOfBoard rows;
-    std::ranges::transform(hiddenWords, std::back_inserter(rows), row);
+    for (const HiddenWord& word : hiddenWords)
+        rows.push_back(word.*row);
     return rows;
 }
 
@@ -276,6 +278,13 @@ const Part parts[] = {
         [](Board& board, const std::string& text) { board.Caption = Replaced(text, '_', ' '); }},
 };
 
+const Part* PartCalled(std::string_view key)
+{
+    const auto is = [key](const Part& part) { return part.key == key; };
+    const auto* part = std::find_if(std::begin(parts), std::end(parts), is);
+    return part == std::end(parts) ? nullptr : part;
+}
+
 } // namespace
 
 std::vector<std::pair<std::string, std::string>> PartsOf(const Board& board)
@@ -291,8 +300,8 @@ void SetBoard(Board& board, const std::string& text)
     std::istringstream words(text);
     for (std::string word; words >> word;) {
         const std::string key = word.substr(0, word.find_first_of("=:") + 1);
-        const auto* part = std::ranges::find(parts, key, &Part::key);
-        Demand(part != std::end(parts), word + ": no such part of a board");
+        const Part* part = PartCalled(key);
+        Demand(part != nullptr, word + ": no such part of a board");
         try {
             part->set(board, word.substr(key.size()));
         } catch (const ScriptError& error) {
@@ -310,7 +319,6 @@ std::string Line(const Board& board, std::initializer_list<const char*> keys)
 {
     std::string line;
     for (const char* key : keys)
-        Append(line, key + std::ranges::find(parts, std::string_view(key), &Part::key)->text(board),
-            ' ');
+        Append(line, key + PartCalled(key)->text(board), ' ');
     return line;
 }

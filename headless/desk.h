@@ -27,16 +27,16 @@ protected:
     void StartProgram() override;
     void DeliverClick(const ::Click& click, std::int16_t index) override;
     void AfterEvent() override;
+    void PaintNow() override;
+    Answer Ask(const Message& message) override;
+    void Say(const std::string& text) override { PlayedGame::Say(text); }
+    std::int64_t Milliseconds() const override { return PlayedGame::Milliseconds(); }
 
 private:
     void ShowBoard() override;
     void TakeOutOfPlay() override;
-    void PaintNow() override;
-    Answer Ask(const Message& message) override;
     [[noreturn]] void End() override { view.EndProgram(); }
-    void Say(const std::string& text) override { PlayedGame::Say(text); }
     void WakeAfter(int milliseconds) override { PlayedGame::WakeAfter(milliseconds); }
-    std::int64_t Milliseconds() const override { return PlayedGame::Milliseconds(); }
     int DoubleClickMilliseconds() const override { return PlayedGame::DoubleClickMilliseconds(); }
     bool OpenHowToPlay() override { return PlayedGame::OpenHowToPlay(); }
 

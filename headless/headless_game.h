@@ -86,6 +86,9 @@ protected:
     virtual void DeliverClick(const ::Click& click, std::int16_t index);
     virtual void AfterEvent() { }
 
+    // What waits for a repaint is given up, as front ends do when a message opens.
+    void GiveUpWaiting() { std::erase_if(pending_, [](const Event& event) { return event.when == When::InRepaint; }); }
+
 private:
     void RunPending(When when);
     void OnCall(const std::string& call);

@@ -3,9 +3,9 @@
 
 #include "game/platform.h"
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -62,8 +62,11 @@ public:
 
     void SeedRandom(float seed) override
     {
+        std::uint32_t bits = 0;
+        static_assert(sizeof bits == sizeof seed);
+        std::memcpy(&bits, &seed, sizeof bits);
         if (generator_)
-            generator_->seed(std::bit_cast<std::uint32_t>(seed));
+            generator_->seed(bits);
     }
 
     float ClockSeconds() override { return generator_ ? clock++ : clock; }

@@ -68,7 +68,7 @@ Run ReadDrag(const std::string& rest)
 {
     const Part& part = ReadPart(rest);
     return [&part](HeadlessGame& game) {
-        if (!Played(game).InSession().BeginDrag(part))
+        if (!Played(game).BeginDrag(part))
             game.tell("no drag");
     };
 }
@@ -76,7 +76,7 @@ Run ReadDrag(const std::string& rest)
 Run ReadDrop(const std::string& rest)
 {
     const Part* part = rest.empty() ? nullptr : &ReadPart(rest);
-    return [part](HeadlessGame& game) { Played(game).InSession().EndDrag(part); };
+    return [part](HeadlessGame& game) { Played(game).EndDrag(part); };
 }
 
 Run ReadWalk(const std::string& rest)
@@ -208,6 +208,16 @@ const Part& ReadPart(const std::string& name)
 EventWords PlayersWords()
 {
     return words;
+}
+
+bool PlayedGame::BeginDrag(const Part& part)
+{
+    return InSession().BeginDrag(part);
+}
+
+void PlayedGame::EndDrag(const Part* part)
+{
+    InSession().EndDrag(part);
 }
 
 void PlayedGame::Set(const std::string& parts)

@@ -48,6 +48,8 @@ public:
     virtual void PressMouse(const Part& part) = 0;
     virtual void TypeLetter(const std::string& letter) = 0;
     virtual void Paste(const std::string& text) = 0;
+    virtual bool BeginDrag(const Part& part);
+    virtual void EndDrag(const Part* part);
 
     // The focus is told with the parts of the board.
     bool tellsFocus = false;

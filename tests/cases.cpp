@@ -8,13 +8,10 @@
 #include <filesystem>
 #include <fstream>
 
-namespace {
-
-constexpr const char* beginning = "board hidden=planet/garden/simple you=garden me=planet "
-                                  "swap=simple level:1 panel:no frames:yes candidates=300*zzzzzz\n"
-                                  "list planet garden simple\n";
-
-} // namespace
+const char* const beginningOfCases
+    = "board hidden=planet/garden/simple you=garden me=planet "
+      "swap=simple level:1 panel:no frames:yes candidates=300*zzzzzz\n"
+      "list planet garden simple\n";
 
 void PrintTo(const Case& held, std::ostream* out)
 {
@@ -47,7 +44,7 @@ std::vector<Case> ReadCases(const std::string& folder, EventWords more)
 
 void ExpectToHold(HeadlessGame& game, const Case& held)
 {
-    RunScript(game, beginning);
+    RunScript(game, beginningOfCases);
     Transcript transcript(game);
     std::string happened;
     std::string expected;

@@ -10,11 +10,13 @@
 
 struct Case : Script { };
 
+// What all of them begin with, as a script.
+extern const char* const beginningOfCases;
+
 void PrintTo(const Case& held, std::ostream* out);
 std::string NameOf(const Case& held); // as a test may be called
 
 // Of all the files in that folder below tests/cases/; "" for the rules.
 std::vector<Case> ReadCases(const std::string& folder, EventWords more = {});
 
-// From a board that all cases begin with.
 void ExpectToHold(HeadlessGame& game, const Case& held);

@@ -1,17 +1,10 @@
-// The program on a page: a board, a view, a platform and the page that they meet in; and the events
-// of the page, which page/events.js calls.
+// The program on a page: a board, a view, a platform and the page that they meet in.
 #include "game/board.h"
 #include "game/game.h"
-#include "ui/part.h"
 #include "ui/system_platform.h"
 #include "ui/view.h"
 #include "ui/web/page.h"
 #include "ui/web/word_list.h"
-
-#include <emscripten.h>
-
-#include <cstdlib>
-#include <string>
 
 namespace {
 
@@ -25,122 +18,11 @@ struct Program {
     Page page{game};
 };
 
-// Meant: never taken down, since the page calls it as long as it is there.
-Program& TheProgram()
-{
-    static auto& program = *new Program;
-    return program;
-}
-
-const Part& PartAt(int place)
-{
-    return Parts()[static_cast<std::size_t>(place)];
-}
-
-int Take(const PlayerEvent& event)
-{
-    return TheProgram().page.Take(event) ? 1 : 0;
-}
-
 } // namespace
 
-extern "C" {
-
-// The library's own would write to a stream that no player reads, and bring all of printf with it.
-[[noreturn]] void abort_message(const char* /*format*/, ...)
+// Meant: never taken down, since the page calls it as long as it is there.
+Page& ThePage()
 {
-    std::abort();
+    static auto& program = *new Program;
+    return program.page;
 }
-
-EMSCRIPTEN_KEEPALIVE void Begin()
-{
-    TheProgram().page.Start();
-}
-
-EMSCRIPTEN_KEEPALIVE int Click(int place)
-{
-    TheProgram().page.Forget(PartAt(place));
-    return Take({.Is = PlayerEvent::Kind::Click, .At = &PartAt(place)});
-}
-
-EMSCRIPTEN_KEEPALIVE int Press(int key, int held, int shift, int atStart, int atEnd)
-{
-    const KeyPress press{static_cast<Key>(key), held != 0, shift != 0, atStart != 0, atEnd != 0};
-    if ((press.Is == Key::Tab || press.Is == Key::BackTab)
-        && TheProgram().page.TabLeaves(press.Is == Key::Tab))
-        return 0;
-    return Take({.Is = PlayerEvent::Kind::Press, .Pressed = press});
-}
-
-// The letter as it was typed, and then in its other cases.
-EMSCRIPTEN_KEEPALIVE int Type(const char* typed, const char* lower, const char* upper)
-{
-    return Take({.Is = PlayerEvent::Kind::Type, .Texts = {typed, lower, upper}});
-}
-
-EMSCRIPTEN_KEEPALIVE int Edited(int place, const char* text, int erased)
-{
-    TheProgram().page.Forget(PartAt(place));
-    const auto kind = erased != 0 ? PlayerEvent::Kind::Erase : PlayerEvent::Kind::Edit;
-    return Take({.Is = kind, .At = &PartAt(place), .Texts = {text}});
-}
-
-EMSCRIPTEN_KEEPALIVE int Wrote(int place, const char* text)
-{
-    TheProgram().page.Forget(PartAt(place));
-    return Take({.Is = PlayerEvent::Kind::Write, .At = &PartAt(place), .Texts = {text}});
-}
-
-EMSCRIPTEN_KEEPALIVE int Tick(int place, int ticked)
-{
-    TheProgram().page.Forget(PartAt(place));
-    return Take({.Is = ticked != 0 ? PlayerEvent::Kind::Tick : PlayerEvent::Kind::Untick});
-}
-
-EMSCRIPTEN_KEEPALIVE int BeginDrag(int place)
-{
-    return Take({.Is = PlayerEvent::Kind::BeginDrag, .At = &PartAt(place)});
-}
-
-// Without a place it ends elsewhere.
-EMSCRIPTEN_KEEPALIVE int EndDrag(int place)
-{
-    return Take({.Is = PlayerEvent::Kind::EndDrag, .At = place < 0 ? nullptr : &PartAt(place)});
-}
-
-// These run at once, also while a repaint waits.
-EMSCRIPTEN_KEEPALIVE int PointerDown()
-{
-    return TheProgram().page.InSession().PointerDown() ? 1 : 0;
-}
-
-EMSCRIPTEN_KEEPALIVE int TakesAnswer()
-{
-    return TheProgram().page.InSession().TakesAnswer() ? 1 : 0;
-}
-
-EMSCRIPTEN_KEEPALIVE void PlaceMessage(
-    double pixelsPerTwip, int left, int top, int hasPointer, int x, int y)
-{
-    const auto pointer = hasPointer != 0 ? std::optional(PixelPoint{x, y}) : std::nullopt;
-    TheProgram().page.PlaceMessage({pixelsPerTwip, left, top}, pointer);
-}
-
-EMSCRIPTEN_KEEPALIVE const char* LetterInHand()
-{
-    static std::string letter;
-    letter = TheProgram().page.InSession().LetterInHand();
-    return letter.c_str();
-}
-
-EMSCRIPTEN_KEEPALIVE void FocusCame(int place)
-{
-    TheProgram().page.InSession().FocusCame(PartAt(place));
-}
-
-EMSCRIPTEN_KEEPALIVE void Wake()
-{
-    TheProgram().page.InSession().Wake();
-}
-
-} // extern "C"

@@ -74,3 +74,6 @@ private:
     bool ended_ = false;
     std::vector<PlayerEvent> waiting_; // for the frame
 };
+
+// The one that there is.
+Page& ThePage();

@@ -131,7 +131,7 @@ const showers = {
     name(control) {
         if (control.ear)
             control.ear.textContent = control.name;
-        else if (!["label", "option", "check"].includes(control.kind) && control.element.className !== "backing")
+        else if (!["label", "option", "check"].includes(control.kind) && !control.element.classList.contains("backing"))
             control.input.setAttribute("aria-label", control.name);
     },
     help(control) {

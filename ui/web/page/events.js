@@ -7,7 +7,8 @@ const keys = ["ArrowLeft", "ArrowRight", "ArrowUp", "ArrowDown", "Home", "End", 
 const dragBegins = 8; // pixels from where the pointer was pressed
 
 /** @param {KeyboardEvent} event */
-function keyOf({ key, shiftKey, ctrlKey, altKey, metaKey }) {
+function keyOf({ key: name, code, shiftKey, ctrlKey, altKey, metaKey }) {
+    const key = code === "Tab" ? code : name; // with Shift it has another name in some browsers
     if (key === "Enter")
         return keys.indexOf(key);
     if (ctrlKey || altKey || metaKey)
@@ -105,7 +106,7 @@ export class Events {
                 this.endDrag(-1);
             else if (this.pressKey(key, event, at))
                 return event.preventDefault();
-            if (event.key === "Tab")
+            if (event.code === "Tab")
                 this.letTabLeave();
             else if (at?.matches(".list") && walkWords(/** @type {HTMLElement} */ (at), event.key))
                 event.preventDefault();
@@ -193,7 +194,13 @@ export class Events {
         this.press = this.pressCounts && this.board.controls[place]?.drags === 1
             ? { place, x: event.clientX, y: event.clientY, under: false } : null;
         if (this.press) // so that a finger, too, leaves the tile
-            /** @type {Element} */ (event.target).releasePointerCapture?.(event.pointerId);
+            this.release(/** @type {Element} */ (event.target), event.pointerId);
+    }
+
+    /** @param {Element} element @param {number} pointer */
+    release(element, pointer) {
+        if (element.hasPointerCapture(pointer))
+            element.releasePointerCapture(pointer);
     }
 
     /** @param {PointerEvent} event */

@@ -60,6 +60,7 @@ export class MessageBox {
 
     show() {
         this.box.showModal();
+        requestAnimationFrame(() => this.asked && this.program._MessageShows());
         this.putInPlace();
         (this.asked?.noIsHarmless ? this.no : this.yes).focus();
     }
@@ -79,15 +80,26 @@ export class MessageBox {
     }
 
     putInPlace() {
-        const { column, pixels, left, top } = this.board.scale();
+        const { column, pixels } = this.board.scale();
         this.box.style.setProperty("--twip", `${pixels}px`);
         if (column)
             return this.putInColumn();
+        this.putOnBoard();
+        const { top, bottom } = this.box.getBoundingClientRect();
+        const away = Math.min(top, Math.max(0, bottom + margin - this.height()));
+        if (away === 0)
+            return;
+        this.document.defaultView?.scrollBy(0, away); // a board that is larger than the screen
+        this.putOnBoard();
+        const below = this.box.getBoundingClientRect().bottom + margin - this.height();
+        if (below > 0)
+            this.box.style.top = `${Math.max(0, parseFloat(this.box.style.top) - below)}px`;
+    }
+
+    putOnBoard() {
+        const { pixels, left, top } = this.board.scale();
         const { x, y } = this.mouse ?? { x: 0, y: 0 };
         this.program._PlaceMessage(pixels, Math.round(left), Math.round(top), this.mouse ? 1 : 0, x, y);
-        const below = this.box.getBoundingClientRect().bottom + margin - this.height();
-        if (below > 0) // of a board that is larger than the screen
-            this.box.style.top = `${Math.max(0, parseFloat(this.box.style.top) - below)}px`;
     }
 
     /** @param {number} width */

@@ -13,6 +13,7 @@ export class Stage {
         this.program = null;
         /** @type {ReturnType<typeof setTimeout> | undefined} */
         this.alarm = undefined;
+        this.afterwards = new MessageChannel(); // kept, as no browser has to keep one that waits
         this.askToLeave = this.askToLeave.bind(this);
     }
 
@@ -93,13 +94,18 @@ export class Stage {
     // waited for any longer than a player would wait.
     frame() {
         return new Promise(resolve => {
-            const afterwards = new MessageChannel();
-            afterwards.port1.onmessage = resolve;
-            const go = () => afterwards.port2.postMessage(null);
-            if (this.document.hidden)
-                return go();
-            requestAnimationFrame(go);
-            setTimeout(go, 100);
+            this.afterwards.port1.onmessage = resolve;
+            /** @type {number | undefined} */
+            let next;
+            const go = () => {
+                clearTimeout(late);
+                if (next !== undefined)
+                    cancelAnimationFrame(next);
+                this.afterwards.port2.postMessage(null);
+            };
+            const late = setTimeout(go, this.document.hidden ? 0 : 100);
+            if (!this.document.hidden)
+                next = requestAnimationFrame(go);
         });
     }
 

@@ -5,7 +5,8 @@ const files = "@FILES@";
 const kept = ["./", ...[/*KEPT*/].map(name => `${files}/${name}`)];
 
 self.addEventListener("install", event => {
-    const load = kept.map(name => new Request(name, { cache: "force-cache" }));
+    // The page alone has the same name in every version, and what the browser has of it may be old.
+    const load = kept.map(name => new Request(name, { cache: name === "./" ? "no-cache" : "force-cache" }));
     event.waitUntil(caches.open(files).then(cache => cache.addAll(load)));
 });
 
