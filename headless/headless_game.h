@@ -87,7 +87,10 @@ protected:
     virtual void AfterEvent() { }
 
     // What waits for a repaint is given up, as front ends do when a message opens.
-    void GiveUpWaiting() { std::erase_if(pending_, [](const Event& event) { return event.when == When::InRepaint; }); }
+    void GiveUpWaiting()
+    {
+        std::erase_if(pending_, [](const Event& event) { return event.when == When::InRepaint; });
+    }
 
 private:
     void RunPending(When when);

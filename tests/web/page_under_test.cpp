@@ -1,4 +1,5 @@
-// The page's program with chance and board set from outside, and a new one whenever it is asked for.
+// The page's program with chance and board set from outside, and a new one whenever it is asked
+// for.
 #include "game/board.h"
 #include "game/computer_go.h"
 #include "game/game.h"

@@ -1,6 +1,6 @@
-// write_steps [SESSIONS]: plays every case, or so many random sessions, without a window. Writes down
-// each step of the player, what is asked and answered, and what is on view afterwards, for a page to
-// do the same: a line each, its fields set apart by tabs. player.js reads them.
+// write_steps [SESSIONS]: plays every case, or so many random sessions, without a window. Writes
+// down each step of the player, what is asked and answered, and what is on view afterwards, for a
+// page to do the same: a line each, its fields set apart by tabs. player.js reads them.
 #include "game/clicks.h"
 #include "headless/desk.h"
 #include "tests/cases.h"
@@ -234,7 +234,7 @@ private:
     bool random_;
     bool settles_ = true; // the player does nothing
     int restarts_ = 0;
-    int depth_ = 0;       // steps under way
+    int depth_ = 0; // steps under way
     std::int64_t writtenAt_ = 0;
     std::vector<std::optional<Look>> looks_; // as written last
 };
