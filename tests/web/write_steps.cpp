@@ -233,7 +233,7 @@ private:
     std::string name_;
     bool random_;
     bool settles_ = true; // the player does nothing
-    int restarts_ = 0;
+    std::uint32_t restarts_ = 0;
     int depth_ = 0; // steps under way
     std::int64_t writtenAt_ = 0;
     std::vector<std::optional<Look>> looks_; // as written last
