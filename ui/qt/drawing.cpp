@@ -47,14 +47,14 @@ void Choose(QAbstractButton& button, bool chosen)
 void ShowLook(const BuiltControl& control, const Look& look)
 {
     QWidget& widget = *control.Widget;
+    GiveName(widget, QString::fromStdString(look.Name));
+    widget.setAccessibleDescription(QString::fromStdString(look.Help));
     if (auto* box = dynamic_cast<TakesLook*>(&widget))
         box->SetLook(BoxLookOf(look));
     else if (auto* button = dynamic_cast<QAbstractButton*>(&widget))
         Choose(*button, look.Chosen);
     else if (auto* list = dynamic_cast<UsedWordsList*>(&widget))
         list->SetLook(look);
-    GiveName(widget, QString::fromStdString(look.Name));
-    widget.setAccessibleDescription(QString::fromStdString(look.Help));
 }
 
 // The mark of an option or a check box is of one size, however the places of its kind are rounded.

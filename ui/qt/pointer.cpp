@@ -41,7 +41,7 @@ bool Pointer::OnWindow(QEvent& event)
         LetGo(nullptr);
         return false;
     case QEvent::Leave:
-        at_.reset();
+        isInside_ = false;
         ShowHand();
         return false;
     default:
@@ -57,7 +57,7 @@ bool Pointer::Press(const QMouseEvent& mouse)
         = mouse.type() == QEvent::MouseButtonPress && mouse.buttons() == mouse.button();
     if (!std::exchange(isDown_, true) || alone) {
         swallows_ = !session_.PointerDown();
-        pressedAt_ = *at_;
+        pressedAt_ = at_;
         const bool left = mouse.button() == Qt::LeftButton;
         pressed_ = left ? PartOf(controls_, window_.childAt(pressedAt_)) : nullptr;
     }
@@ -67,6 +67,7 @@ bool Pointer::Press(const QMouseEvent& mouse)
 bool Pointer::Move(const QMouseEvent& mouse)
 {
     at_ = mouse.position().toPoint();
+    isInside_ = true;
     isFinger_ = mouse.device()->type() == QInputDevice::DeviceType::TouchScreen;
     LetShow(window_, hover, !isFinger_ && !drags_);
     if (drags_ && !mouse.buttons().testFlag(Qt::LeftButton) && mouse.type() == QEvent::MouseMove)
@@ -85,8 +86,8 @@ bool Pointer::Move(const QMouseEvent& mouse)
 bool Pointer::HasLeft(const Part& part) const
 {
     const QWidget& widget = *controls_[IndexOf(part)].Widget;
-    return (*at_ - pressedAt_).manhattanLength() >= QApplication::startDragDistance()
-        && !widget.rect().contains(widget.mapFrom(&window_, *at_));
+    return (at_ - pressedAt_).manhattanLength() >= QApplication::startDragDistance()
+        && !widget.rect().contains(widget.mapFrom(&window_, at_));
 }
 
 bool Pointer::Release(const QMouseEvent& mouse)
@@ -110,7 +111,7 @@ void Pointer::LetGo(const Part* to)
 void Pointer::ShowHand()
 {
     const QString letter = QString::fromStdString(session_.LetterInHand());
-    const bool shows = at_ && !letter.isEmpty() && !session_.MessageIsOpen()
+    const bool shows = isInside_ && !letter.isEmpty() && !session_.MessageIsOpen()
         && !session_.ShowsFocus() && (drags_ || !isFinger_);
     if (!shows) {
         if (hand_ != nullptr)
@@ -138,7 +139,7 @@ QPoint Pointer::PlaceOfHand() const
 {
     const QSize size = hand_->size();
     if (isFinger_)
-        return *at_ - QPoint(size.width() / 2, 2 * size.height());
-    return {std::min(at_->x() + 12, window_.width() - size.width()),
-        std::min(at_->y() + 12, window_.height() - size.height())};
+        return at_ - QPoint(size.width() / 2, 2 * size.height());
+    return {std::min(at_.x() + 12, window_.width() - size.width()),
+        std::min(at_.y() + 12, window_.height() - size.height())};
 }

@@ -7,8 +7,6 @@
 #include <QObject>
 #include <QPoint>
 
-#include <optional>
-
 class LetterTile;
 class QMouseEvent;
 class Session;
@@ -37,9 +35,10 @@ private:
     const Controls& controls_;
     Session& session_;
     LetterTile* hand_ = nullptr; // made when it is first seen
-    std::optional<QPoint> at_;   // of the pointer, while it is in the window
+    QPoint at_;                  // where the pointer was last seen in the window
     QPoint pressedAt_;
     const Part* pressed_ = nullptr; // where a drag can begin
+    bool isInside_ = false;
     bool isDown_ = false;
     bool swallows_ = false; // what is pressed does not count
     bool drags_ = false;
