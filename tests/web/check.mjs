@@ -151,8 +151,8 @@ async function checkHurry(address) {
     for (let round = 0; round < 10; ++round) {
         const [width, height] = screens[round % 2 === 0 ? "lying" : "phone"];
         const places = await visit.run(all => all.map(name => {
-            const { left = 0, top = 0, width = 0, height = 0 } = document.getElementById(name)?.getBoundingClientRect() ?? {};
-            return { x: left + width / 2, y: top + height / 2 };
+            const { left = 0, top = 0, right = 0, bottom = 0 } = document.getElementById(name)?.getBoundingClientRect() ?? {};
+            return { x: (left + right) / 2, y: (top + bottom) / 2 };
         }), names);
         const sent = [];
         for (let event = 0; event < 100; ++event) {
@@ -255,7 +255,7 @@ const checks = {
     list: () => checkWithoutList(pages),
     always: () => checkAlwaysThere(pages),
 };
-for (const [name, check] of Object.entries(checks).filter(([name]) => only.length === 0 || only.includes(name))) {
+for (const [name, check] of Object.entries(checks).filter(([each]) => only.length === 0 || only.includes(each))) {
     const from = Date.now();
     await check();
     console.log(`${name}: ${Date.now() - from} ms`);

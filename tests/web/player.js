@@ -9,7 +9,7 @@ const started = Promise.all(["quorvel2.wasm", "Lexicon.txt"]
     .map(async name => (await fetch(new URL(name, import.meta.url))).arrayBuffer()));
 
 let now = 0;
-let frames = [];
+const frames = [];
 let lastAlarm = 0;
 const alarms = new Map();
 const channel = new MessageChannel();
@@ -45,7 +45,7 @@ const paint = () => frames.splice(0).forEach(call => call());
 
 class Player {
     constructor(program, stage, list) {
-        Object.assign(this, { program, stage, list, problems: [], played: 0, board: stage.board, looks: [], says: [], done: new Set(), asked: 0 });
+        Object.assign(this, { program, stage, list, problems: [], played: 0, board: stage.board, looks: [], says: [], done: new Set(), ahead: -1, asked: 0 });
         stage.openHelp = () => {};
         const wait = stage.frame.bind(stage);
         stage.frame = () => wait().then(() => void (this.goesOn = true));
@@ -186,15 +186,17 @@ class Player {
         const told = document.getElementById("caption").textContent;
         if (told !== caption)
             found.push(`caption ${told}`);
+        // A click that waits for a repaint has taken the focus already.
+        const isAhead = this.at < this.ahead;
         const canHaveIt = focus < 0 || !this.element(focus).closest("[hidden]");
         if (at < 0 && this.leaves) // a key that goes round leads to the links beside the board first
             this.element(focus).focus();
-        else if (!this.stage.message.box.open && canHaveIt && at !== focus)
+        else if (!isAhead && !this.stage.message.box.open && canHaveIt && at !== focus)
             found.push(`focus ${this.nameOf(at)}, due ${this.nameOf(focus)}`);
         for (const [place, look] of this.looks.entries()) {
             const shown = this.shown(place);
             for (const [field, due] of Object.entries(look ?? {})) {
-                if (shown[field] !== undefined && shown[field] !== due)
+                if (shown[field] !== undefined && shown[field] !== due && !(isAhead && field === "help"))
                     found.push(`${this.nameOf(place)} ${field} "${shown[field]}", due "${due}"`);
             }
         }
@@ -227,6 +229,7 @@ class Player {
             if (asked === 0 && open >= 0 && step !== "at" && this.steps[step] && !this.done.has(at)) {
                 this.steps[step](fields);
                 this.done.add(at);
+                this.ahead = at;
             }
         }
     }
@@ -268,6 +271,14 @@ window.play = async (name, from) => {
     return player.play(player.lines, from).catch(error => ({ next: null, played: player.played,
         problems: [...player.problems, `${player.name}, step ${player.at + 1}: ${error}`] }));
 };
+
+// What a screen reader has to be told of each control on view, by its role.
+window.heard = () => player.looks.flatMap((look, place) => {
+    const roles = { tile: "button", button: "button", guess: "textbox", shown: "StaticText", option: "radio", check: "checkbox", list: "listbox", frame: "group" };
+    const { kind, element } = player.board.controls[place];
+    const seen = roles[kind] && look.onView === "1" && look.name !== "" && !element.classList.contains("backing");
+    return seen ? [`${roles[kind]} ${look.name}`] : [];
+});
 
 async function makePlayer() {
     const [compiled, list] = await started;

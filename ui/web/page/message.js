@@ -76,6 +76,7 @@ export class MessageBox {
             return;
         this.asked = null;
         this.box.close();
+        this.box.getBoundingClientRect(); // WebKit gives the board no focus until the box is seen to be gone
         this.answer(yes);
     }
 
