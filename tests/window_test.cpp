@@ -15,6 +15,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointingDevice>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QToolTip>
@@ -116,6 +117,18 @@ TEST_F(Window, DragsLetters)
         QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, middle);
         EXPECT_EQ(Line(board, {"you=", "swap="}), after) << from << " to " << to;
     }
+    // By a finger, above which the letter can be seen.
+    Set("you=planet held=");
+    const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
+    const QPoint at = Named("Text1:5").mapTo(&window, QPoint(9, 9));
+    QTest::touchEvent(window.windowHandle(), device.get())
+        .press(0, Named("Text1:2").mapTo(&window, QPoint(3, 3)));
+    QTest::touchEvent(window.windowHandle(), device.get()).move(0, at);
+    const QWidget* hand
+        = window.findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly).back();
+    EXPECT_EQ(hand->pos(), at - QPoint(hand->width() / 2, 2 * hand->height()));
+    QTest::touchEvent(window.windowHandle(), device.get()).release(0, at);
+    EXPECT_EQ(Line(board, {"you="}), "you=peanlt");
 }
 
 TEST_F(Window, KeepsTheNewestWordInSight)
