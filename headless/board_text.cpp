@@ -9,7 +9,6 @@
 #include "lexicon/letters.h"
 
 #include <algorithm>
-#include <cassert>
 #include <functional>
 #include <memory>
 #include <sstream>
@@ -134,7 +133,7 @@ std::vector<std::string> NamesOfArranging()
         button->Enabled = false;
         const auto click = std::find_if(Clicks().begin(), Clicks().end(),
             [&board](const Click& row) { return row.Boxes == 0 && !row.Enabled(*board, 0); });
-        assert(click != Clicks().end());
+        Demand(click != Clicks().end(), "a button of ArrangingButtons has no click");
         names.emplace_back(click->Control);
         button->Enabled = true;
     }

@@ -33,9 +33,13 @@ std::vector<Case> ReadCases(const std::string& folder, EventWords more)
         if (entry.is_directory())
             continue;
         std::ifstream stream(entry.path());
-        for (Script& script : ReadScripts(stream, entry.path().filename().string(), more)) {
-            script.name.insert(0, entry.path().stem().string() + ": ");
-            cases.push_back({std::move(script)});
+        try {
+            for (Script& script : ReadScripts(stream, entry.path().filename().string(), more)) {
+                script.name.insert(0, entry.path().stem().string() + ": ");
+                cases.push_back({std::move(script)});
+            }
+        } catch (const ScriptError& error) { // a case of its own, that does not hold
+            cases.push_back({{error.what(), {{error.what(), nullptr}}}});
         }
     }
     std::ranges::sort(cases, {}, &Case::name);

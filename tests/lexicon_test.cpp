@@ -115,6 +115,7 @@ TEST(Passes, LettersSpellAWord)
         {"one of them too often", "bücherslovoéèa", "büüéoo", false},
         {"bytes of two letters are not a third", "аїцqйuэ", "аїццйq", false},
         {"letters whose numbers end alike are two", "ààĠbcdef", "àĠĠbcd", false},
+        {"and letters of two alphabets", "éөabcd", "ééabcd", false},
         {"one of them is there", "ÿĿabcdef", "abcdÿĿ", true},
         {"and one not, after the last place", "ÿĿabcdef", "abcdÿſ", false},
         {"letters of three bytes", "काडनपटकखกขฃ", "กขฃกขฃ", false},
@@ -151,6 +152,8 @@ TEST(Passes, PickStopsShortOfTheLastRecord)
     EXPECT_EQ(pick(0), "none");
     EXPECT_EQ(pick(DrawOf(2, 3)), "a");
     EXPECT_EQ(pick(justBelowOne), "b");
+    const float belowTwo = 1082401.0F / (1 << 24); // of 31; as a float the product would be 2
+    EXPECT_EQ(PickRandomWord(lexicon, 31, belowTwo), "a");
 }
 
 TEST(Passes, ChanceThatThreeFirstLettersDiffer)

@@ -1,6 +1,6 @@
 // The script language: what it refuses, and how clicks wait.
 
-#include "headless/script.h"
+#include "headless/played_game.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ std::string Refusal(const std::string& script)
 {
     std::istringstream stream("# one line before\n" + script);
     try {
-        ReadScripts(stream, "moves.txt");
+        ReadScripts(stream, "moves.txt", PlayersWords());
         return "";
     } catch (const ScriptError& error) {
         return error.what();
@@ -30,6 +30,7 @@ TEST(Script, NamesFileLineAndWordOfWhatSaysNothing)
         {"do Text6:7=a", "Text6:7=a: \"7\" is not a number from 1 to 6"},
         {"do Text1:1=a", "Text1:1=a: nothing can be typed into Text1"},
         {"do", "something must follow"},
+        {"do key:long-F2", "key:long-F2: no such key"},
         {"draws 7/6", "7/6: \"7\" is not a number from 1 to 6"},
         {"draws 1", "1: \"1\" is not a number from 0.000000 to 1.000000"},
         {"check it", "no such line: check it"},
@@ -65,6 +66,7 @@ TEST(Script, PlaysAsAWindowWould)
             "Quorvel2: The file Lexicon.txt must be in the C:\\ Directory (Folder)", "end",
             "refused Command3"}));
     EXPECT_EQ(game.board.Level, 0);
+    EXPECT_THROW(RunScript(game, "board frames:yes"), ScriptError) << "on view, and of no level";
     RunScript(game,
         "board hidden=planet/garden/simple you=garden level:1 frames:yes\ndo Text6:2=a_c Command6 "
         "Text1:1");

@@ -13,6 +13,9 @@
 #include <QAccessible>
 #include <QDesktopServices>
 #include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointingDevice>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QToolTip>
@@ -53,43 +56,38 @@ TEST_F(Window, KeepsMouseAndKeysFromWhatIsBelowAMessage)
     EXPECT_TRUE(opened);
 }
 
-// The colour of a dot, which is counted from the far edge where it is negative.
-TEST_F(Window, DrawsThings)
+// It is wide enough for its title and stays on the screen, and Escape is no answer where that would
+// end the program.
+TEST_F(Window, OpensMessagesThatCanBeReadAndAnswered)
 {
-    struct Row {
-        const char* state;
-        const char* box;
-        QPoint at;
-        const char* colour;
+    window.move(0, window.screen()->size().height() - 300);
+    std::string titles;
+    whileOpen = [&](QWidget& box) {
+        titles += box.windowTitle().toStdString() + '.';
+        EXPECT_GE(box.findChild<QLabel*>("text")->width(), 170);
+        EXPECT_TRUE(window.screen()->geometry().contains(box.frameGeometry()));
+        if (box.windowTitle() == "New Game") {
+            Wait(1000);
+            QTest::keyClick(&box, Qt::Key_Escape);
+            EXPECT_TRUE(box.isVisible());
+        }
     };
-    const QPoint ground(5, 9);
-    const QPoint top(9, 2);
-    const QPoint lip(9, -3);
-    const Row rows[] = {
-        {"you=planet swap=simple shown=m...../....../......", "Text1:1", ground, "#ffff00"},
-        {"", "Text1:1", top, "#ffff00"},
-        {"", "Text1:1", lip, "#8a8a00"},
-        {"", "SwapLetters:2", ground, "#ffc0ff"},
-        {"", "Word1:2", lip, "#8a6845"},
-        {"", "Word1:1", lip, "#ff8000"},                      // is not for sale
-        {"you=p.anet held=l2", "Text1:2", ground, "#ffff00"}, // and hollow
-        {"", "Text1:2", top, "#8a8a00"},
-        {"", "Text1:2", lip, "#ffff00"},
-        {"held= you=P----- up=.lanet next:2", "Text1:2", top, "#0048ba"},
-        {"", "Text1:3", top, "#efef7c"},
-        {"guess=m...../....../......", "Text6:1", QPoint(9, 1), "#b05000"},
-        {"guess=(7)...../....../......", "Text6:1", QPoint(2, 1), "#c80000"},
-    };
+    Play("Option1:1 Command1 Command7 yes yes Command10");
+    EXPECT_EQ(titles, "Quorvel2.Do I win?.Quorvel2.New Game.Quorvel2.");
+}
+
+// Part of what is in a box is erased: the focus stays.
+TEST_F(Window, EditsWithinABox)
+{
     Play("Option1:1 Command1");
-    Set("hidden=marten/lineup/feeder");
-    for (const auto& [state, name, at, colour] : rows) {
-        Set(state);
-        const QImage image = Named(name).grab().toImage();
-        const QPoint dot = at * window.devicePixelRatioF();
-        const int x = (dot.x() + image.width()) % image.width();
-        const int y = (dot.y() + image.height()) % image.height();
-        EXPECT_EQ(image.pixelColor(x, y).name(), colour)
-            << name << " after " << state << " at " << y;
+    for (const auto& [key, cursor, text] :
+        {std::tuple("Backspace", 3, "ab"), {"Delete", 0, "bc"}}) {
+        Set("guess=.....(abc)/....../......");
+        Play("focus:Text6:6");
+        Named<QLineEdit>("Text6:6").setCursorPosition(cursor);
+        Play(std::string("key:") + key);
+        EXPECT_EQ(board.Text6(6).Text, text);
+        EXPECT_EQ(Focused(), &ReadPart("Text6:6")) << key;
     }
 }
 
@@ -105,20 +103,32 @@ TEST_F(Window, DragsLetters)
         {"SwapLetters:3", "Text1:2", "you=pmanet swap=SILPLE"},
         {"Text1:2", "Text1:5", "you=peanlt swap=simple"},
         {"Text1:2", "YourScore", "you=planet swap=simple"},
+        {"Text1:2", "Text1:2", "you=p.anet swap=simple"}, // a shaky click stays one
     };
     Play("Option1:1 Command1");
     for (const auto& [from, to, after] : rows) {
         Set("you=planet swap=simple");
         Play("wait:5000");
-        const auto middle = [this](const char* name) {
-            return Named(name).mapTo(&window, Named(name).rect().center());
-        };
-        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, middle(from));
-        QTest::mouseMove(window.windowHandle(), middle(to));
-        EXPECT_FALSE(InSession().LetterInHand().empty());
-        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, middle(to));
+        const QPoint middle = Named(to).mapTo(&window, Named(to).rect().center());
+        QTest::mousePress(
+            window.windowHandle(), Qt::LeftButton, {}, Named(from).mapTo(&window, QPoint(3, 3)));
+        QTest::mouseMove(window.windowHandle(), middle);
+        EXPECT_EQ(InSession().LetterInHand().empty(), from == std::string_view(to));
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, middle);
         EXPECT_EQ(Line(board, {"you=", "swap="}), after) << from << " to " << to;
     }
+    // By a finger, above which the letter can be seen.
+    Set("you=planet held=");
+    const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
+    const QPoint at = Named("Text1:5").mapTo(&window, QPoint(9, 9));
+    QTest::touchEvent(window.windowHandle(), device.get())
+        .press(0, Named("Text1:2").mapTo(&window, QPoint(3, 3)));
+    QTest::touchEvent(window.windowHandle(), device.get()).move(0, at);
+    const QWidget* hand
+        = window.findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly).back();
+    EXPECT_EQ(hand->pos(), at - QPoint(hand->width() / 2, 2 * hand->height()));
+    QTest::touchEvent(window.windowHandle(), device.get()).release(0, at);
+    EXPECT_EQ(Line(board, {"you="}), "you=peanlt");
 }
 
 TEST_F(Window, KeepsTheNewestWordInSight)
@@ -217,6 +227,8 @@ TEST_F(Window, FitsEveryScreen)
             EXPECT_EQ(window.frameSize(),
                 state == Qt::WindowNoState ? (QSizeF(664, 499) * factor).toSize() : room.toSize());
             ExpectShown("another screen");
+            EXPECT_NEAR(
+                Named("Text1:1").font().pixelSize(), 24 * 15 * window.Present().PixelsPerTwip, 1);
             for (const BuiltControl& control : window.Parts()) {
                 const QString caption = control.Widget->property("text").toString();
                 EXPECT_TRUE(caption.size() < 2 || !control.Widget->isVisible()
@@ -234,6 +246,9 @@ TEST_F(Window, FitsEveryScreen)
 
 TEST_F(Window, HoldsItsSize)
 {
+    // The border of the level panel takes no focus.
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(288, 134));
+    EXPECT_EQ(Focused(), &ReadPart("Option1:1"));
     for (const QSize size : {QSize(900, 700), QSize(300, 200)}) {
         window.resize(size);
         QCoreApplication::processEvents();
