@@ -60,6 +60,21 @@ TEST(Places, OfTheLevelPanelBesideTheBoard)
         (PixelRect{128, 107, 41, 33}));
 }
 
+// At every scale: first and last lines are rounded, and not sizes.
+TEST(Places, OfNeighboursShareALine)
+{
+    const Board board;
+    for (const double factor : {0.75, 1.0, 1.3, 1.58, 2.0, 2.9}) {
+        const Scale scale{factor / 15, 0, 0};
+        for (int box = 1; box < 6; ++box) {
+            const PixelRect one = PlaceOf(FindPart("Text1", box), board, scale);
+            EXPECT_EQ(one.Left + one.Width - LineWidth(scale),
+                PlaceOf(FindPart("Text1", box + 1), board, scale).Left)
+                << factor;
+        }
+    }
+}
+
 // One frame below the other, on a narrow screen.
 TEST(Places, InAColumn)
 {

@@ -4,6 +4,7 @@
 #include "game/board.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QStyle>
 
 namespace {
@@ -83,6 +84,8 @@ TEST_F(Looks, OfEveryState)
         {"", "Text6:1", {9, 3}, "#b05000"},  // the mark within the ring
         {"", "Frame8", {29, 33}, "#efefef"}, // no tray
         {"", "Frame4", {5, 89}, "#c9c9c9"},
+        {"", "Frame4", {0, 99}, "#9b9b9b"},
+        {"", "Frame8", {0, 60}, "#fb3c3c"},
     };
     Play("Option1:1 Command1");
     Set("hidden=marten/lineup/feeder");
@@ -95,8 +98,14 @@ TEST_F(Looks, OfEveryState)
 
 TEST_F(Looks, OfLettersAndMarks)
 {
+    EXPECT_EQ(Dot(Drawn("Option1:1"), {9, -1}), "#c04000");
+    Play("key:Tab key:Backtab");
+    EXPECT_EQ(Dot(Drawn("Option1:1"), {9, -1}), "#ffffff") << "in focus, for who plays by keys";
     Play("Option1:1 Command1");
-    Set("you=P----- up=.lanet next:2 off=arranging swap=SIMPLE");
+    EXPECT_EQ(Named<QLabel>("Label5").alignment(), Qt::AlignCenter);
+    Set("you=p.anet held=l2");
+    EXPECT_EQ(Ink("Text1:2").first, "#808000") << "a letter that is in the hand";
+    Set("held= you=P----- up=.lanet next:2 off=arranging swap=SIMPLE");
     EXPECT_EQ(Ink("Text1:1").first, "#000000") << "a word that is laid out is clear";
     EXPECT_EQ(Ink("SwapLetters:2").first, "#605460") << "what is out of play is not";
     Set("you=planet up=......");
@@ -114,6 +123,11 @@ TEST_F(Looks, OfLettersAndMarks)
     EXPECT_TRUE(Named("Command4").font().bold());
     const QWidget& option = Named("Option1:1");
     EXPECT_EQ(option.style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, &option), 6);
+
+    RunScript(*this,
+        "board candidates=300*pmanet swap=simple me=planet used=x\ndraws 18*0\ndo Command13");
+    EXPECT_EQ(Dot(Drawn("List1"), {3, 25}), "#0048ba") << "the computer's word";
+    EXPECT_EQ(Dot(Drawn("List1"), {3, 60}), "#ffffff");
 
     whileOpen = [this](QWidget& box) {
         const QImage usual = box.findChild<QAbstractButton*>()->grab().toImage();

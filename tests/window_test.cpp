@@ -6,6 +6,7 @@
 #include "game/rows.h"
 #include "headless/board_text.h"
 #include "ui/places.h"
+#include "ui/qt/box_look.h"
 #include "ui/qt/program.h"
 #include "ui/qt/used_words_list.h"
 
@@ -16,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointingDevice>
+#include <QPushButton>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QToolTip>
@@ -63,17 +65,20 @@ TEST_F(Window, OpensMessagesThatCanBeReadAndAnswered)
     window.move(0, window.screen()->size().height() - 300);
     std::string titles;
     whileOpen = [&](QWidget& box) {
-        titles += box.windowTitle().toStdString() + '.';
+        titles += box.windowTitle().toStdString();
+        for (const auto* button : box.findChildren<QPushButton*>())
+            titles += button->isDefault() ? '/' + button->text().toStdString() + ' ' : "";
         EXPECT_GE(box.findChild<QLabel*>("text")->width(), 170);
         EXPECT_TRUE(window.screen()->geometry().contains(box.frameGeometry()));
         if (box.windowTitle() == "New Game") {
             Wait(1000);
             QTest::keyClick(&box, Qt::Key_Escape);
             EXPECT_TRUE(box.isVisible());
+            EXPECT_TRUE(box.property(rings).toBool()) << "it is answered by keys now";
         }
     };
     Play("Option1:1 Command1 Command7 yes yes Command10");
-    EXPECT_EQ(titles, "Quorvel2.Do I win?.Quorvel2.New Game.Quorvel2.");
+    EXPECT_EQ(titles, "Quorvel2/OK Do I win?/No Quorvel2/OK New Game/Yes Quorvel2/OK ");
 }
 
 // Part of what is in a box is erased: the focus stays.
@@ -129,6 +134,15 @@ TEST_F(Window, DragsLetters)
     EXPECT_EQ(hand->pos(), at - QPoint(hand->width() / 2, 2 * hand->height()));
     QTest::touchEvent(window.windowHandle(), device.get()).release(0, at);
     EXPECT_EQ(Line(board, {"you="}), "you=peanlt");
+
+    const QPoint corner(window.width() - 1, window.height() - 1);
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, at);
+    QTest::mouseMove(window.windowHandle(), corner);
+    EXPECT_TRUE(window.rect().contains(hand->geometry()));
+    QEvent leaves(QEvent::WindowDeactivate); // another window takes the pointer
+    QCoreApplication::sendEvent(&window, &leaves);
+    EXPECT_EQ(Line(board, {"you=", "held="}), "you=peanlt held=");
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, corner);
 }
 
 TEST_F(Window, KeepsTheNewestWordInSight)
@@ -277,6 +291,7 @@ TEST(Program, IsPutTogether)
 {
     Program program;
     program.window.show();
+    EXPECT_FALSE(program.window.windowIcon().pixmap(64).isNull());
     const QWidget* over = nullptr;
     QTimer closing;
     QObject::connect(&closing, &QTimer::timeout, &closing, [&over] {
